@@ -1,0 +1,20 @@
+#pragma once
+
+#include "app/ValueListModel.h"
+#include "clipboard/ClipRow.h"
+
+namespace velm
+{
+
+// The rows of the clipboard panel: ClipRow's properties are the roles.
+class ClipListModel : public ValueListModel<ClipRow>
+{
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("ClipboardManager has it")
+
+public:
+    using ValueListModel<ClipRow>::ValueListModel;
+};
+
+}
