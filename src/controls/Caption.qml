@@ -1,0 +1,6 @@
+import Velm.Theme
+
+Label {
+    dim: true
+    font.pixelSize: Type.caption
+}

@@ -1,0 +1,7 @@
+import QtQuick
+import Velm.Theme
+
+Rectangle {
+    color: Ink.card
+    radius: Space.card
+}
