@@ -1,0 +1,92 @@
+import QtQuick
+import Velm.Clipboard
+import Velm.Island
+import Velm.Theme
+
+// The clips that pass filter and search, pinned ones first. Nothing of it exists while it is not shown.
+ListView {
+    id: root
+
+    property bool isShown: false
+    property color accent: Ink.text
+    readonly property int page: Math.max(1, Math.floor(height / (Space.listRow + Space.rowGap)) - 1)
+
+    function toFirst() {
+        root.currentIndex = 0
+        root.positionViewAtBeginning()
+    }
+
+    function move(by: int) {
+        root.currentIndex = Math.max(0, Math.min(root.count - 1, root.currentIndex + by))
+    }
+
+    function line(index: int): ClipLine {
+        return root.itemAtIndex(index) as ClipLine
+    }
+
+    // Copies the clip of a row, or pastes it too where the person was before. False when there is no such row.
+    function use(index: int, paste: bool): bool {
+        const line = root.line(index)
+        if (!line)
+            return false
+        root.currentIndex = index
+        if (paste)
+            IslandController.close()
+        else
+            line.confirm()
+        ClipboardManager.use(line.row.id, paste)
+        return true
+    }
+
+    function pin(): bool {
+        const line = root.line(root.currentIndex)
+        if (line)
+            ClipboardManager.togglePin(line.row.id)
+        return line !== null
+    }
+
+    function remove(): bool {
+        const line = root.line(root.currentIndex)
+        if (line)
+            ClipboardManager.remove(line.row.id)
+        return line !== null
+    }
+
+    Accessible.name: qsTr("Clips")
+    Accessible.role: Accessible.List
+    bottomMargin: Space.m
+    boundsBehavior: Flickable.StopAtBounds
+    clip: true
+    highlightMoveDuration: 0
+    model: ClipboardManager.model
+    onIsShownChanged: ClipboardManager.setActive(root.isShown)
+    reuseItems: true
+    spacing: Space.rowGap
+
+    delegate: ClipLine {
+        // qmllint disable unqualified
+        accent: root.accent
+        isCurrent: index === root.currentIndex
+        width: root.width
+        onUseWanted: paste => root.use(index, paste)
+        // qmllint enable unqualified
+    }
+
+    add: Transition {
+        SequentialAnimation {
+            PropertyAction { property: "opacity"; value: 0 }
+            PauseAnimation { duration: Motion.row * 0.4 }
+            NumberAnimation { property: "opacity"; to: 1; duration: Motion.row * 0.6 }
+        }
+    }
+    remove: Transition {
+        NumberAnimation { property: "opacity"; to: 0; duration: Motion.row * 0.4 }
+    }
+    displaced: Transition {
+        NumberAnimation { property: "y"; duration: Motion.row * 0.6; easing.type: Easing.OutCubic }
+        NumberAnimation { property: "opacity"; to: 1; duration: Motion.row * 0.6 }
+    }
+    move: Transition {
+        NumberAnimation { property: "y"; duration: Motion.row; easing.type: Easing.OutCubic }
+    }
+}

@@ -1,0 +1,7 @@
+import QtQuick
+import Velm.Theme
+
+Item {
+    height: Space.m
+    width: Space.m
+}
