@@ -79,10 +79,11 @@ bool looksLikePicture(const QByteArray &bytes)
     if (!reader.canRead())
         return false;
     // Some formats do not say their size before they are decoded; the reader's own limit holds for these.
+    const bool isPng = bytes.startsWith(pngSignature);
     const QSize size = reader.size();
-    if (size.isValid() && !isReasonable(size))
+    if ((isPng || size.isValid()) && !isReasonable(size))
         return false;
-    return !bytes.startsWith(pngSignature) || isWholePng(bytes);
+    return !isPng || isWholePng(bytes);
 }
 
 std::optional<ClipPicture> makePicture(const QByteArray &bytes)

@@ -10,7 +10,7 @@ Pressable {
     property bool isPrimary: false
     property color accent: Ink.text
     readonly property bool hasWords: text !== ""
-    readonly property color ink: isPrimary ? Ink.onAccent : Ink.text
+    property color ink: isPrimary ? Ink.onAccent : hasWords || isHovered ? Ink.text : Ink.second
     readonly property real gap: Space.s - Space.xxs
 
     implicitHeight: hasWords ? Space.control : Space.symbolButton
@@ -36,7 +36,7 @@ Pressable {
 
         Symbol {
             anchors.verticalCenter: parent.verticalCenter
-            color: root.hasWords ? root.ink : root.isHovered ? Ink.text : Ink.second
+            color: root.ink
             name: root.symbol
             size: root.hasWords ? Space.symbolSmall : Space.symbol
             visible: root.symbol !== ""

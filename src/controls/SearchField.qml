@@ -14,6 +14,7 @@ Rectangle {
 
     signal clicked
     signal edited
+    signal keyPressed(var event) // before the field itself takes it
 
     color: Ink.card
     implicitHeight: Space.control
@@ -57,6 +58,7 @@ Rectangle {
         selectionColor: Ink.veil(root.accent, 0.4)
         verticalAlignment: TextInput.AlignVCenter
 
+        Keys.onPressed: event => root.keyPressed(event)
         onTextEdited: {
             root.isTyping = true
             root.edited()

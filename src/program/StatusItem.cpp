@@ -29,7 +29,7 @@ void StatusItem::buildMenu(std::function<void()> quit)
     m_menu.addSeparator();
     for (const VelmTab tab : allTabs())
         m_menu.addAction(title(tab), this,
-                         [this, tab] { m_island.open(tab, IslandController::Focus::Take); });
+                         [this, tab] { openTab(tab); });
     m_menu.addSeparator();
     m_menu.addAction(tr("Settings…"), QKeySequence(Qt::CTRL | Qt::Key_Comma), this, [this] {
         m_island.openSettings(m_island.settingsPage(), IslandController::Focus::Take);
@@ -37,6 +37,12 @@ void StatusItem::buildMenu(std::function<void()> quit)
     m_pauseAction = m_menu.addAction(QString(), this, &StatusItem::togglePause);
     m_menu.addAction(tr("Quit"), QKeySequence(Qt::CTRL | Qt::Key_Q), this, std::move(quit));
     retitlePause();
+}
+
+void StatusItem::openTab(VelmTab tab)
+{
+    m_island.closeSettings(); // who asks for a section wants to see it
+    m_island.open(tab, IslandController::Focus::Take);
 }
 
 void StatusItem::showIcon()

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "island/VelmTab.h"
+
 #include <QDBusServiceWatcher>
 #include <QMenu>
 #include <QSystemTrayIcon>
@@ -25,6 +27,7 @@ public:
 
 private:
     void buildMenu(std::function<void()> quit);
+    void openTab(VelmTab tab);
     void showIcon();
     void togglePause();
     void retitlePause();

@@ -35,7 +35,7 @@ struct CommandRig : ClipRig {
                      const QMap<QString, QString> &options = {}, bool wantsJson = false)
     {
         CommandReply reply{.status = -1};
-        for (const Command &command : clipCommands(*manager, loop)) {
+        for (const Command &command : clipCommands(manager.get(), &loop)) {
             if (command.verb == verb)
                 command.run({arguments, wantsJson, options},
                             [&reply](const CommandReply &given) { reply = given; });
@@ -63,8 +63,8 @@ void ClipCommandsTest::the_list_fits_the_screen()
     const QStringList lines = rig.run("list").out.split(u'\n');
 
     QCOMPARE(lines.size(), 3);
-    QCOMPARE(lines[0].left(30), rig.item(0).id.left(8) + "  *  Color  #fff         ");
-    QCOMPARE(lines[1].left(30), rig.item(1).id.left(8) + "     Text   xxxxxxxxxxxxx");
+    QCOMPARE(lines[0].left(30), rig.item(0).id.left(8) + "  *  Color  #fff      ");
+    QCOMPARE(lines[1].left(30), rig.item(1).id.left(8) + "     Text   xxxxxxxxxx");
     QVERIFY(lines[1].contains("x…  4 min"));
     QCOMPARE(lines[0].indexOf("4 min"), lines[1].indexOf("4 min"));
     for (const QString &line : lines)

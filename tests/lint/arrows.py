@@ -5,7 +5,7 @@ import re
 import sys
 
 ROOT = pathlib.Path(__file__).resolve().parents[2]
-ROW = re.compile(r"^\| `src/(\w+)` \|[^|]*\| ([^|]*) \|$", re.M)
+ROW = re.compile(r"^\| `src/(\w+)` \|[^|]*\|([^|]*)\|$", re.M)
 INCLUDE = re.compile(r'^\s*#\s*include\s+"(\w+)/([^"]+)"', re.M)
 IMPORT = re.compile(r"^\s*import\s+Velm\.(\w+)", re.M)
 # Folders of platform/ that hold a back-end; only makePlatform.cpp and their own kind may name one.

@@ -17,8 +17,8 @@ RULES = [
     ),
     (re.compile(r"^\s*Timer\s*\{", re.M), re.compile(r"^$"), "time comes from RunLoop"),
     (
-        re.compile(r"#(?:[0-9A-Fa-f]{8}|[0-9A-Fa-f]{6}|[0-9A-Fa-f]{3})\b(?=[\"'])"),
-        re.compile(r"^src/theme/|^src/panels/preview/|^src/program/preview/|^tests/"),
+        re.compile(r"(?:color\w*|QColor)\W{1,4}(?:QStringLiteral\()?[\"']#[0-9A-Fa-f]{3,8}\b|:\s*\"#[0-9A-Fa-f]{3,8}\"", re.I),
+        re.compile(r"^src/theme/|^src/panels/preview/|^tests/"),
         "colours come from Ink",
     ),
     (

@@ -25,19 +25,18 @@ QtObject {
     }
 
     function take(event: var) {
-        if (event.accepted)
-            event.accepted = root.moved(event) || root.acted(event) || root.searched(event)
+        event.accepted = root.moved(event) || root.acted(event) || root.searched(event)
     }
 
     function moved(event: var): bool {
         const inList = root.isAtList || (event.modifiers & Qt.ControlModifier)
         switch (event.key) {
-        case Qt.Key_Up: root.list.move(-1); return true
-        case Qt.Key_Down: root.list.move(1); return true
-        case Qt.Key_PageUp: root.list.move(-root.list.page); return true
-        case Qt.Key_PageDown: root.list.move(root.list.page); return true
-        case Qt.Key_Home: if (inList) root.list.move(-root.list.count); return inList
-        case Qt.Key_End: if (inList) root.list.move(root.list.count); return inList
+        case Qt.Key_Up: root.list.step(-1); return true
+        case Qt.Key_Down: root.list.step(1); return true
+        case Qt.Key_PageUp: root.list.step(-root.list.page); return true
+        case Qt.Key_PageDown: root.list.step(root.list.page); return true
+        case Qt.Key_Home: if (inList) root.list.step(-root.list.count); return inList
+        case Qt.Key_End: if (inList) root.list.step(root.list.count); return inList
         }
         return false
     }
@@ -49,9 +48,9 @@ QtObject {
         if (event.key === Qt.Key_Return || event.key === Qt.Key_Enter)
             return root.list.use(root.list.currentIndex, withControl)
         if (event.key === Qt.Key_P && (isPlain || withControl))
-            return root.list.pin()
+            return root.list.pinCurrent()
         if (event.key === Qt.Key_Delete && isPlain)
-            return root.list.remove()
+            return root.list.removeCurrent()
         if (isPlain && event.key >= Qt.Key_1 && event.key <= Qt.Key_9)
             return root.list.use(event.key - Qt.Key_1, false)
         return false

@@ -25,19 +25,21 @@ Item {
         visible: root.isActive
 
         Button {
+            ink: Ink.text
             isTabStop: false
             label: qsTr("Paste")
             symbol: "doc.on.clipboard"
             onActivated: root.pasteWanted()
         }
         Button {
-            accent: root.row.pinned ? root.accent : Ink.text
+            ink: root.row.pinned ? root.accent : Ink.text
             isTabStop: false
             label: root.row.pinned ? qsTr("Unpin") : qsTr("Pin")
             symbol: "pin.fill"
             onActivated: ClipboardManager.togglePin(root.row.id)
         }
         Button {
+            ink: Ink.text
             isTabStop: false
             label: qsTr("Delete")
             symbol: "trash"
@@ -51,7 +53,7 @@ Item {
         color: root.accent
         height: width
         radius: width / 2
-        visible: root.row.pinned && !root.isActive
+        visible: root.row.pinned === true && !root.isActive
         width: Space.dot
     }
     Caption {

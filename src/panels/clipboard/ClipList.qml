@@ -16,7 +16,7 @@ ListView {
         root.positionViewAtBeginning()
     }
 
-    function move(by: int) {
+    function step(by: int) {
         root.currentIndex = Math.max(0, Math.min(root.count - 1, root.currentIndex + by))
     }
 
@@ -38,14 +38,14 @@ ListView {
         return true
     }
 
-    function pin(): bool {
+    function pinCurrent(): bool {
         const line = root.line(root.currentIndex)
         if (line)
             ClipboardManager.togglePin(line.row.id)
         return line !== null
     }
 
-    function remove(): bool {
+    function removeCurrent(): bool {
         const line = root.line(root.currentIndex)
         if (line)
             ClipboardManager.remove(line.row.id)
@@ -60,7 +60,6 @@ ListView {
     highlightMoveDuration: 0
     model: ClipboardManager.model
     onIsShownChanged: ClipboardManager.setActive(root.isShown)
-    reuseItems: true
     spacing: Space.rowGap
 
     delegate: ClipLine {

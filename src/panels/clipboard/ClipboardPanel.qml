@@ -47,7 +47,11 @@ Section {
 
     Connections {
         target: ClipboardManager
-        function onSearchChanged() { search.text = ClipboardManager.search }
+        function onFilterChanged() { list.toFirst() }
+        function onSearchChanged() {
+            search.text = ClipboardManager.search
+            list.toFirst()
+        }
     }
     ClipKeys {
         id: keys
@@ -64,8 +68,7 @@ Section {
         placeholder: qsTr("Search")
         onEdited: ClipboardManager.search = text
         onClicked: isTyping = true
-
-        Keys.onPressed: event => keys.take(event)
+        onKeyPressed: event => keys.take(event)
     }
     ClipFilters {
         id: filters

@@ -76,7 +76,7 @@ void PasteboardContract::nothing_wanted_is_nothing_read()
     QVERIFY(world->waitFor([&] { return log.changes.size() == 1; }));
     world->copy({{html, "wanted"}});
 
-    QVERIFY(world->waitFor([&] { return log.reads.size() == 1; }));
+    QVERIFY(world->waitFor([&] { return !log.texts().isEmpty(); }));
     QCOMPARE(log.texts(), QList<QByteArray>{"wanted"});
 }
 

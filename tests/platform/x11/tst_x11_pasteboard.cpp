@@ -89,6 +89,7 @@ private Q_SLOTS:
     void a_program_may_end_while_an_owner_hangs();
     void a_burst_is_read_completely();
     void sixty_seven_megabytes_are_read_in_one_copy();
+    void a_copy_is_read_within_milliseconds();
     void a_resting_clipboard_wakes_nobody();
 };
 
@@ -387,6 +388,28 @@ void X11PasteboardTest::sixty_seven_megabytes_are_read_in_one_copy()
     qInfo("read in %lld ms, peak grew by %lld MB", clock.elapsed(), peakGrowth / 1'000'000);
     QCOMPARE(log.reads.first().outcome, PasteboardOutcome::Read);
     QCOMPARE(log.texts().first().size(), size);
+}
+
+void X11PasteboardTest::a_copy_is_read_within_milliseconds()
+{
+    X11PasteboardWorld world;
+    PasteboardLog log(world.pasteboard());
+    world.pasteboard().watch(wantAll());
+    QList<double> milliseconds;
+
+    for (int i = 0; i < 300; ++i) {
+        QElapsedTimer clock;
+        clock.start();
+        world.copy({{plainText, QByteArray::number(i)}});
+        QVERIFY(world.waitFor([&] { return log.reads.size() == i + 1; }));
+        milliseconds.append(static_cast<double>(clock.nsecsElapsed()) / 1e6);
+    }
+
+    std::sort(milliseconds.begin(), milliseconds.end());
+    const double median = milliseconds.at(milliseconds.size() / 2);
+    qInfo("median %.2f ms, 99th of 100 %.2f ms, longest %.2f ms", median,
+          milliseconds.at(milliseconds.size() * 99 / 100), milliseconds.last());
+    QVERIFY2(median < 50, qPrintable(QString::number(median)));
 }
 
 void X11PasteboardTest::a_resting_clipboard_wakes_nobody()

@@ -26,7 +26,6 @@ SelectionAnswer SelectionRequest::run(xcb_atom_t target, xcb_timestamp_t time, B
         return {kind, {}};
     switch (takeProperty(limit)) {
     case Slice::Whole:
-        xcb_delete_property(m_wire.xcb(), m_requestor, m_property);
         break;
     case Slice::Increments:
         kind = takeIncrements(limit);
@@ -60,12 +59,13 @@ SelectionAnswer::Kind SelectionRequest::awaitAnswer(xcb_atom_t target)
     return SelectionAnswer::Broken;
 }
 
-// Appends the property's bytes; the property itself stays.
+// Appends the property's bytes. The server deletes it with the last of them, which asks the owner for the
+// next piece where there are pieces.
 SelectionRequest::Slice SelectionRequest::takeProperty(Bytes limit)
 {
     quint32 offset = 0;
     while (true) {
-        const auto cookie = xcb_get_property(m_wire.xcb(), 0, m_requestor, m_property,
+        const auto cookie = xcb_get_property(m_wire.xcb(), 1, m_requestor, m_property,
                                              XCB_GET_PROPERTY_TYPE_ANY, offset, sliceWords);
         const XcbReply<xcb_get_property_reply_t> slice(xcb_get_property_reply(m_wire.xcb(), cookie, nullptr));
         if (!slice || slice->type == XCB_ATOM_NONE)
@@ -89,8 +89,7 @@ SelectionRequest::Slice SelectionRequest::takeProperty(Bytes limit)
     }
 }
 
-// Deleting the property asks for the next piece; an empty one is the end. What was announced is the least
-// that comes, not the most.
+// An empty piece is the end. What was announced is the least that comes, not the most.
 SelectionAnswer::Kind SelectionRequest::takeIncrements(Bytes limit)
 {
     const qint64 announced = m_announced;
@@ -98,7 +97,6 @@ SelectionAnswer::Kind SelectionRequest::takeIncrements(Bytes limit)
         return SelectionAnswer::TooLarge;
     m_bytes.reserve(announced);
     while (true) {
-        xcb_delete_property(m_wire.xcb(), m_requestor, m_property);
         if (!awaitIncrement())
             return SelectionAnswer::Broken;
         const qint64 before = m_bytes.size();
@@ -107,10 +105,8 @@ SelectionAnswer::Kind SelectionRequest::takeIncrements(Bytes limit)
             return SelectionAnswer::TooLarge;
         if (slice != Slice::Whole)
             return SelectionAnswer::Broken;
-        if (m_bytes.size() > before)
-            continue;
-        xcb_delete_property(m_wire.xcb(), m_requestor, m_property);
-        return before >= announced ? SelectionAnswer::Complete : SelectionAnswer::Broken;
+        if (m_bytes.size() == before)
+            return before >= announced ? SelectionAnswer::Complete : SelectionAnswer::Broken;
     }
 }
 
