@@ -3,9 +3,11 @@
 #include <QCoreApplication>
 #include <QLocale>
 
-namespace velm {
+namespace velm
+{
 
-namespace {
+namespace
+{
 
 constexpr qint64 minute = 60;
 constexpr qint64 hour = 60 * minute;

@@ -13,9 +13,11 @@
 #include <cstdlib>
 #include <cstring>
 
-namespace velm {
+namespace velm
+{
 
-namespace {
+namespace
+{
 
 constexpr auto temporaryStem = ".velm-"; // then six characters of mkostemp's
 constexpr std::chrono::hours writeTimeLimit{1};

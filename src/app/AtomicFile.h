@@ -8,7 +8,8 @@
 
 #include <functional>
 
-namespace velm {
+namespace velm
+{
 
 // Replaces the file in one step, so that a reader sees the old bytes or the new ones: a temporary file in the
 // same folder, readable by the user alone, is written, synchronised and renamed. Where the path is a link,

@@ -5,16 +5,17 @@
 #include <algorithm>
 #include <limits>
 
-namespace velm {
+namespace velm
+{
 
-namespace {
+namespace
+{
 
 // Below the first combining mark every code unit is a character of its own, but for CR LF.
 constexpr char16_t firstMark = 0x0300;
 constexpr qsizetype everything = std::numeric_limits<qsizetype>::max();
 
-struct Reach
-{
+struct Reach {
     qsizetype characters = 0;
     qsizetype units = 0;
 };

@@ -3,7 +3,8 @@
 #include <QString>
 #include <QStringView>
 
-namespace velm {
+namespace velm
+{
 
 // Characters are what a person sees as one: the extended grapheme clusters of Unicode Standard Annex 29.
 // CR LF is one. Takes time in proportion to the text, and little memory beside it.

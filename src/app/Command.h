@@ -9,11 +9,11 @@
 
 #include <functional>
 
-namespace velm {
+namespace velm
+{
 
 // What a command line gets back: the exit status, and the two texts that are printed as they are.
-struct CommandReply
-{
+struct CommandReply {
     int status = 0;
     QString out = {};
     QString err = {};
@@ -23,8 +23,7 @@ struct CommandReply
 
 // A command line taken apart: what follows the noun and the verb. `options` has the names without their
 // dashes; an option that takes no value has an empty one.
-struct CommandCall
-{
+struct CommandCall {
     QStringList arguments;
     bool wantsJson = false;
     QMap<QString, QString> options = {};
@@ -33,8 +32,7 @@ struct CommandCall
 // One command of the command line, beside the feature that it drives. `arguments` is written as people read
 // it, and checked as it is written: "ID [--paste]", "PATH… [--group G]", "DIR on|off",
 // "[--seconds N | --sticky]". PATH and DIR are paths, TEXT can be "-" for the standard input.
-struct Command
-{
+struct Command {
     using Reply = std::function<void(CommandReply)>;
     using Run = std::function<void(const CommandCall &, Reply)>;
 

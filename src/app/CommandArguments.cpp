@@ -7,12 +7,13 @@
 
 #include <algorithm>
 
-namespace velm {
-
-namespace {
-
-struct Surroundings
+namespace velm
 {
+
+namespace
+{
+
+struct Surroundings {
     const QString &workingDirectory;
     const std::function<QString()> &readStandardInput;
 

@@ -2,7 +2,8 @@
 
 #include "app/Command.h"
 
-namespace velm {
+namespace velm
+{
 
 // The words as the running program is to get them from a client in another folder: paths (PATH, DIR) made
 // absolute, and a TEXT of "-" replaced by the standard input without its last line feed. Words that the

@@ -6,9 +6,11 @@
 
 #include <algorithm>
 
-namespace velm {
+namespace velm
+{
 
-namespace {
+namespace
+{
 
 enum class Paths { None, Any, Folders };
 

@@ -2,7 +2,8 @@
 
 #include "app/Command.h"
 
-namespace velm {
+namespace velm
+{
 
 // What the shells need to complete nouns, verbs, options, fixed words and paths.
 QString bashCompletion(const QList<Command> &commands);

@@ -1,8 +1,10 @@
 #include "app/CommandHelp.h"
 
-namespace velm {
+namespace velm
+{
 
-namespace {
+namespace
+{
 
 constexpr qsizetype width = 80;
 constexpr qsizetype helpColumn = 34; // most commands fit before it

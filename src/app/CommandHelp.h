@@ -2,7 +2,8 @@
 
 #include "app/Command.h"
 
-namespace velm {
+namespace velm
+{
 
 // Every command with its arguments and its line of help, no wider than 80 columns.
 QString commandHelp(const QList<Command> &commands);

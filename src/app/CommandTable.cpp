@@ -5,9 +5,11 @@
 
 #include <algorithm>
 
-namespace velm {
+namespace velm
+{
 
-namespace {
+namespace
+{
 
 constexpr int usageStatus = 2;
 

@@ -2,7 +2,8 @@
 
 #include "app/Command.h"
 
-namespace velm {
+namespace velm
+{
 
 // All commands of the command line. Answers wrong usage itself, with status 2 and the command's usage line.
 class CommandTable

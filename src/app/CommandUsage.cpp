@@ -2,9 +2,11 @@
 
 #include <algorithm>
 
-namespace velm {
+namespace velm
+{
 
-namespace {
+namespace
+{
 
 const auto dashes = QStringLiteral("--");
 const auto repeatMark = QStringLiteral("…");

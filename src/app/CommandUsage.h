@@ -4,19 +4,17 @@
 
 #include <vector>
 
-namespace velm {
+namespace velm
+{
 
 // A command's `arguments` taken apart.
-struct CommandUsage
-{
-    struct Argument
-    {
+struct CommandUsage {
+    struct Argument {
         QString name; // "ID", "on|off"
         bool isRequired = true;
         bool isRepeated = false;
     };
-    struct Option
-    {
+    struct Option {
         QString name;  // without its dashes
         QString value; // the name of its value, empty when it takes none
         int group = 0; // of the options of one group no more than one may be given
@@ -32,8 +30,7 @@ struct CommandUsage
 };
 
 // Command words after the noun and the verb, sorted: what takes its place in order, and what has a name.
-struct SortedWords
-{
+struct SortedWords {
     QStringList arguments;
     QList<std::pair<QString, QString>> options; // without their dashes
     bool wantsJson = false;

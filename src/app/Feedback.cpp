@@ -1,6 +1,7 @@
 #include "app/Feedback.h"
 
-namespace velm {
+namespace velm
+{
 
 Feedback::Feedback(Settings &settings, SoundPlayer &sounds, Haptics &haptics, Notifications &notifications)
     : m_settings(settings), m_sounds(sounds), m_haptics(haptics), m_notifications(notifications)

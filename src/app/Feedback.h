@@ -6,7 +6,8 @@
 #include "platform/notifications/Notifications.h"
 #include "platform/sound/SoundPlayer.h"
 
-namespace velm {
+namespace velm
+{
 
 // What the person hears and feels of an action, as far as the preferences allow it, and the desktop's
 // notifications.

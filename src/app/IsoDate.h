@@ -6,7 +6,8 @@
 
 #include <optional>
 
-namespace velm {
+namespace velm
+{
 
 // ISO 8601 in the form of RFC 3339 with whole seconds, in UTC: 2026-01-31T17:04:05Z. Years 0 to 9999.
 QByteArray isoText(const QDateTime &date);

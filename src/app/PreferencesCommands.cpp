@@ -2,9 +2,11 @@
 
 #include <QJsonDocument>
 
-namespace velm {
+namespace velm
+{
 
-namespace {
+namespace
+{
 
 constexpr qsizetype screenWidth = 80;
 

@@ -11,9 +11,11 @@
 
 #include <sys/stat.h>
 
-namespace velm {
+namespace velm
+{
 
-namespace {
+namespace
+{
 
 constexpr qint64 fileSizeLimit = 16 * 1024 * 1024;  // hundreds of times what all keys together can need
 constexpr std::chrono::milliseconds editDelay{100}; // an editor may still be writing
@@ -21,8 +23,7 @@ constexpr std::chrono::milliseconds editDelay{100}; // an editor may still be wr
 }
 
 // What tells one content of the file from the next without reading it.
-struct PreferencesFile::Stamp
-{
+struct PreferencesFile::Stamp {
     dev_t device = 0;
     ino_t inode = 0;
     off_t size = -1;
@@ -40,8 +41,7 @@ struct PreferencesFile::Stamp
     bool operator==(const Stamp &) const = default;
 };
 
-struct PreferencesFile::WriteEnd
-{
+struct PreferencesFile::WriteEnd {
     Outcome outcome;
     Stamp stamp;
     bool hadToKeep;

@@ -11,7 +11,8 @@
 #include <memory>
 #include <optional>
 
-namespace velm {
+namespace velm
+{
 
 // The user's preferences: one flat JSON object in a file that people may edit while the program runs. Values
 // are written through on a queue of their own; keys that the program does not know are kept. Main thread

@@ -10,7 +10,8 @@
 
 #include <optional>
 
-namespace velm {
+namespace velm
+{
 
 // Records in JSON. A record is a Q_GADGET whose stored Q_PROPERTYs are the keys: QString, bool, int, qint64,
 // double, QDateTime (ISO 8601, whole seconds, UTC), QStringList, a Q_ENUM (its key in lower camel case), a
@@ -21,8 +22,7 @@ enum class Decoding { Missing, Complete, UnknownKeys, Failed };
 
 // A value read from a file, and how that went: with `UnknownKeys` all went well, but saving drops those keys.
 template <typename T>
-struct Decoded
-{
+struct Decoded {
     std::optional<T> value;
     Decoding decoding = Decoding::Missing;
 };

@@ -7,9 +7,11 @@
 
 #include <limits>
 
-namespace velm {
+namespace velm
+{
 
-namespace {
+namespace
+{
 
 std::optional<QString> readString(const QJsonValue &json)
 {

@@ -10,9 +10,11 @@
 #include <mutex>
 #include <optional>
 
-namespace velm {
+namespace velm
+{
 
-namespace {
+namespace
+{
 
 using Kind = RecordField::Kind;
 

@@ -5,13 +5,13 @@
 
 #include <vector>
 
-namespace velm {
+namespace velm
+{
 
 class RecordTable;
 
 // One key of a record and how its value is written.
-struct RecordField
-{
+struct RecordField {
     enum class Kind {
         String,
         Bool,

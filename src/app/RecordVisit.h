@@ -9,7 +9,8 @@
 
 #include <optional>
 
-namespace velm {
+namespace velm
+{
 
 // Calls the visitor with a field's value in the form in which JSON has it: QString, bool, qint64, double,
 // QStringList, a nested record (its table and address), or a list of nested records.

@@ -2,9 +2,11 @@
 #include "app/RecordCodec.h"
 #include "app/RecordVisit.h"
 
-namespace velm {
+namespace velm
+{
 
-namespace {
+namespace
+{
 
 template <typename Visitor>
 void visitFields(const RecordTable &table, const void *record, Visitor visitor)
@@ -16,8 +18,7 @@ void visitFields(const RecordTable &table, const void *record, Visitor visitor)
     }
 }
 
-struct Written
-{
+struct Written {
     JsonWriter &json;
 
     void operator()(const QString &text) { json.string(text); }
@@ -52,8 +53,7 @@ struct Written
     }
 };
 
-struct Collected
-{
+struct Collected {
     QJsonValue json = {};
 
     void operator()(const QString &text) { json = text; }

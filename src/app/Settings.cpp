@@ -7,9 +7,11 @@
 #include <algorithm>
 #include <limits>
 
-namespace velm {
+namespace velm
+{
 
-namespace {
+namespace
+{
 
 QJsonObject defaults()
 {

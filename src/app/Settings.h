@@ -7,7 +7,8 @@
 
 #include <QQmlEngine>
 
-namespace velm {
+namespace velm
+{
 
 // The preferences as typed properties, each under the key of its name. A setter stores at once and takes any
 // value as it is.

@@ -1,11 +1,12 @@
 #include "app/SettingsPage.h"
 
-namespace velm {
-
-namespace {
-
-struct Entry
+namespace velm
 {
+
+namespace
+{
+
+struct Entry {
     SettingsPage page;
     QLatin1String rawValue;
 };

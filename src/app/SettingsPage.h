@@ -6,7 +6,8 @@
 
 #include <optional>
 
-namespace velm::SettingsPages {
+namespace velm::SettingsPages
+{
 
 Q_NAMESPACE
 QML_NAMED_ELEMENT(SettingsPage)
@@ -17,7 +18,8 @@ Q_ENUM_NS(SettingsPage)
 
 }
 
-namespace velm {
+namespace velm
+{
 
 using SettingsPages::SettingsPage;
 

@@ -2,7 +2,8 @@
 
 #include <QJSEngine>
 
-namespace velm {
+namespace velm
+{
 
 // What a QML singleton's `create` gives back: the one that the composition root made, which stays its owner.
 template <typename T>

@@ -10,9 +10,11 @@
 
 #include <cerrno>
 
-namespace velm {
+namespace velm
+{
 
-namespace {
+namespace
+{
 
 constexpr qsizetype chunkSize = 64 * 1024;
 

@@ -6,12 +6,12 @@
 #include <QDateTime>
 #include <QString>
 
-namespace velm {
+namespace velm
+{
 
 // What stands on disk under a name: nothing, a file's bytes, or something that cannot be read as a file of
 // ours.
-struct StateFile
-{
+struct StateFile {
     enum class State { Missing, Read, Unreadable };
 
     State state = State::Missing;

@@ -6,9 +6,11 @@
 #include <QStandardPaths>
 #include <QThread>
 
-namespace velm {
+namespace velm
+{
 
-namespace {
+namespace
+{
 
 // Nothing that is kept comes near it; more than this could not be parsed in the memory of a laptop.
 constexpr qint64 fileSizeLimit = qint64(1) << 30;

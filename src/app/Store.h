@@ -13,7 +13,8 @@
 #include <mutex>
 #include <optional>
 
-namespace velm {
+namespace velm
+{
 
 // The data folder and its one writer: every feature keeps its records here, one JSON file each.
 // Writing waits until no file was saved for 0.35 s, happens on a queue of its own, and replaces a file in one

@@ -1,6 +1,7 @@
 #include "app/UndoOffer.h"
 
-namespace velm {
+namespace velm
+{
 
 UndoOffer::UndoOffer(RunLoop &loop) : m_over(loop) {}
 

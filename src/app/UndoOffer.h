@@ -9,7 +9,8 @@
 
 #include <functional>
 
-namespace velm {
+namespace velm
+{
 
 // The last destructive action, which can be taken back for five seconds. There is one offer at a time: a new
 // one makes the old one final.

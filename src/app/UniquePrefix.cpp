@@ -1,6 +1,7 @@
 #include "app/UniquePrefix.h"
 
-namespace velm {
+namespace velm
+{
 
 Result<QString> uniquePrefix(const QString &prefix, const QStringList &ids, const QString &what)
 {

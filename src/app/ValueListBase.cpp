@@ -5,9 +5,11 @@
 
 #include <algorithm>
 
-namespace velm {
+namespace velm
+{
 
-namespace {
+namespace
+{
 
 constexpr int none = -1;
 constexpr int firstRole = Qt::UserRole;
@@ -47,8 +49,7 @@ int runEnd(int first, int size, Test test)
 }
 
 // Which row of the one list is which of the other; `none` where it is in one only.
-struct ValueListBase::Pairing
-{
+struct ValueListBase::Pairing {
     std::vector<int> comingOf;
     std::vector<int> shownOf;
 };
@@ -76,8 +77,7 @@ int ValueListBase::rowCount(const QModelIndex &parent) const
 QVariant ValueListBase::data(const QModelIndex &index, int role) const
 {
     const int property = role - firstRole;
-    if (!index.isValid() || index.row() >= rowCount() || property < 0 ||
-        property >= m_type.propertyCount())
+    if (!index.isValid() || index.row() >= rowCount() || property < 0 || property >= m_type.propertyCount())
         return {};
     const Place place = m_isChanging ? m_places[index.row()] : Place{Side::Shown, index.row()};
     return m_type.property(property).readOnGadget(record(place.side, place.index));

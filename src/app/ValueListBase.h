@@ -5,7 +5,8 @@
 
 #include <vector>
 
-namespace velm {
+namespace velm
+{
 
 // What ValueListModel is for QML and for views, without the type of its records.
 class ValueListBase : public QAbstractListModel
@@ -46,13 +47,11 @@ protected:
 
 private:
     struct Pairing;
-    struct Place
-    {
+    struct Place {
         Side side;
         int index;
     };
-    struct ChangedRow
-    {
+    struct ChangedRow {
         int row;
         QList<int> roles;
     };

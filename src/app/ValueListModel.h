@@ -4,7 +4,8 @@
 
 #include <QList>
 
-namespace velm {
+namespace velm
+{
 
 // A list of records for QML: a role for each property of the record. Setting new values announces only what
 // differs, by the records' `id` (a QString), and never resets; so rows animate and keep their state.

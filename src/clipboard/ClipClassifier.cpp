@@ -44,9 +44,12 @@ bool matches(QStringView text, const QRegularExpression &expression)
 const QRegularExpression link = whole(QStringLiteral("(?:https?|file|ftp)://[^\\t\\n\\f\\r\\p{Z}]++"));
 const QRegularExpression address = whole(QStringLiteral("[%1.+-]++@[%1-]++\\.[%1.]++").arg(word));
 
+// The length first: numbers of a million digits take long to read.
 bool isColor(QStringView trimmed)
 {
-    return parseColorLiteral(trimmed) && characterCount(trimmed) <= longestColor;
+    constexpr qsizetype glance = 1024; // code units that tell of nearly every text that it is too long
+    return characterCount(trimmed.left(glance)) <= longestColor && characterCount(trimmed) <= longestColor &&
+           parseColorLiteral(trimmed);
 }
 
 // The plain searches spare most texts the regular expressions.

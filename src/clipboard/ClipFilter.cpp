@@ -19,19 +19,32 @@ QString searched(const QString &search)
     return QStringView(begin, end).toString().toLower();
 }
 
-bool contains(const QString &text, const QString &lowerCase)
+// What toLower gives, without its look-ups for each character where they are not needed.
+void appendLowerCase(QString &result, QStringView piece)
 {
-    if (text.size() <= pieceSize)
-        return text.toLower().contains(lowerCase);
-    QString carried; // the end of the pieces before, where a hit may begin
+    const bool isAscii = std::all_of(piece.begin(), piece.end(), [](QChar c) { return c.unicode() < 0x80; });
+    if (!isAscii) {
+        result += piece.toString().toLower();
+        return;
+    }
+    const qsizetype start = result.size();
+    result.resize(start + piece.size());
+    std::transform(piece.utf16(), piece.utf16() + piece.size(), result.begin() + start, [](char16_t unit) {
+        return static_cast<char16_t>(unit | (unit >= u'A' && unit <= u'Z' ? 0x20 : 0));
+    });
+}
+
+bool contains(QStringView text, const QString &lowerCase)
+{
+    QString lowered; // of a piece, after the end of the one before, where a hit may begin
     for (qsizetype at = 0; at < text.size();) {
         qsizetype end = std::min(at + pieceSize, text.size());
-        if (end < text.size() && text.at(end).isLowSurrogate())
+        if (end < text.size() && text[end].isLowSurrogate())
             --end;
-        carried += QStringView(text).sliced(at, end - at).toString().toLower();
-        if (carried.contains(lowerCase))
+        appendLowerCase(lowered, text.sliced(at, end - at));
+        if (lowered.contains(lowerCase))
             return true;
-        carried = carried.last(std::min(carried.size(), lowerCase.size() - 1));
+        lowered.remove(0, lowered.size() - std::min(lowered.size(), lowerCase.size() - 1));
         at = end;
     }
     return false;

@@ -59,7 +59,7 @@ public:
     QStringList filePaths = {};
     QString sourceApp = {};      // "Unknown" when no program was in front
     QString sourceBundleID = {}; // empty likewise
-    QDateTime date = {};         // of the last copy
+    QDateTime date = {};         // of the last copy, in UTC
     bool pinned = false;
     std::optional<QDateTime> pinnedAt = {};
     int useCount = 0;

@@ -67,7 +67,7 @@ void ClipWatch::noteChange(quint64 change)
     const auto program = m_front.current();
     if (!isCapturing() || (program && isOwn(*program)))
         return;
-    ClipSource source{.program = unknownProgram(), .identifier = {}, .date = m_loop.wallTime()};
+    ClipSource source{.program = unknownProgram(), .identifier = {}, .date = m_loop.wallTime().toUTC()};
     if (program) {
         source.program = program->name.isEmpty() ? unknownProgram() : program->name;
         source.identifier = program->identifier;

@@ -150,7 +150,7 @@ void ClipboardManager::write(const ClipItem &item)
 
 void ClipboardManager::togglePin(const QString &id)
 {
-    const QDateTime now = m_loop.wallTime();
+    const QDateTime now = m_loop.wallTime().toUTC();
     if (!m_archive->change([&](ClipHistory &history) { return history.togglePin(id, now); }))
         return;
     m_feedback.tap();

@@ -16,19 +16,19 @@ public:
     static T &shared()
     {
         Q_ASSERT_X(s_instance, "SharedInstance", "asked for before the composition root made it");
-        return *s_instance;
+        return *static_cast<T *>(s_instance);
     }
 
 protected:
     SharedInstance()
     {
         Q_ASSERT_X(!s_instance, "SharedInstance", "made twice");
-        s_instance = static_cast<T *>(this);
+        s_instance = this;
     }
     ~SharedInstance() { s_instance = nullptr; }
 
 private:
-    static inline T *s_instance = nullptr;
+    static inline SharedInstance *s_instance = nullptr;
 };
 
 }

@@ -1,6 +1,7 @@
 #include "platform/x11/X11Connection.h"
 
 #include <QAbstractEventDispatcher>
+#include <QGuiApplication>
 #include <QSocketNotifier>
 
 #include <cstring>
@@ -77,6 +78,16 @@ void X11Connection::selectOnRoot(quint32 eventMask)
     m_rootEvents |= eventMask;
     xcb_change_window_attributes(m_xcb, root(), XCB_CW_EVENT_MASK, &m_rootEvents);
     flush();
+}
+
+void X11Connection::awaitToolkit()
+{
+    const auto *toolkit = qApp->nativeInterface<QNativeInterface::QX11Application>();
+    if (!toolkit)
+        return;
+    xcb_connection_t *xcb = toolkit->connection();
+    const XcbReply<xcb_get_input_focus_reply_t> reached(
+        xcb_get_input_focus_reply(xcb, xcb_get_input_focus(xcb), nullptr));
 }
 
 void X11Connection::readEvents()

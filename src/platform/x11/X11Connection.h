@@ -50,6 +50,10 @@ public:
 
     void flush() { xcb_flush(m_xcb); }
 
+    // Waits until the server has done all that the toolkit has asked of it on its own line: only then can
+    // a window that the toolkit has made be spoken of on this one.
+    void awaitToolkit();
+
 Q_SIGNALS:
     void received(const xcb_generic_event_t *event);
 

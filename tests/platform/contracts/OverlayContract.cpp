@@ -51,7 +51,7 @@ void OverlayContract::a_keyboard_taken_by_another_window_is_told()
     world->personClicksElsewhere();
 
     QVERIFY(world->waitFor([&] { return losses.size() == 1; }));
-    QVERIFY(!world->hasKeyboard());
+    QVERIFY(world->waitFor([&] { return !world->hasKeyboard(); }));
 }
 
 void OverlayContract::a_compositor_that_comes_or_goes_is_told()

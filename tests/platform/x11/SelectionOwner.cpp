@@ -51,11 +51,14 @@ void SelectionOwner::wakeUp()
 
 void SelectionOwner::copyBurst(int count, std::chrono::milliseconds interval)
 {
-    auto due = std::chrono::steady_clock::now();
+    constexpr std::chrono::milliseconds patience{200};
     for (int i = 0; i < count; ++i) {
+        const int before = m_handedOver;
         copy({{QStringLiteral("UTF8_STRING"), "copy " + QByteArray::number(i)}});
-        due += interval;
-        std::this_thread::sleep_until(due);
+        std::this_thread::sleep_for(interval);
+        const auto end = std::chrono::steady_clock::now() + patience;
+        while (m_handedOver == before && std::chrono::steady_clock::now() < end)
+            std::this_thread::yield();
     }
 }
 
@@ -129,6 +132,7 @@ bool SelectionOwner::give(const xcb_selection_request_event_t &request, xcb_atom
         if (request.target != atom(data.type.toLatin1()) || m_manners.refuses.contains(data.type))
             continue;
         if (data.bytes.size() <= m_manners.incrementAbove) {
+            ++m_handedOver;
             put(request.target, 8, data.bytes.size(), data.bytes.constData());
             return true;
         }

@@ -37,7 +37,8 @@ public:
     // Answers now what it kept waiting.
     void wakeUp();
 
-    // Copies "copy 0", "copy 1" and so on; returns when all are done.
+    // Copies "copy 0", "copy 1" and so on, each no sooner than the interval after the one before, and once
+    // that has been handed over: how soon a busy machine lets programs run is not what is tested.
     void copyBurst(int count, std::chrono::milliseconds interval);
 
     // Goes, and leaves nothing.
@@ -72,6 +73,7 @@ private:
     std::function<void()> m_task;
     int m_wakeFd;
     std::atomic<bool> m_ends = false;
+    std::atomic<int> m_handedOver = 0;
     std::thread m_thread;
 };
 

@@ -59,14 +59,16 @@ void X11Overlay::present(const ScreenInfo &screen)
     const QRect area = screen.geometry;
     m_window->setScreen(qtScreen(screen));
     m_window->setPosition(area.left() + (area.width() - m_window->width()) / 2, area.top());
-    const bool isNew = !m_window->handle();
-    m_window->create();
-    if (isNew)
+    if (!m_window->handle()) {
+        m_window->create();
+        m_connection.awaitToolkit();
         applyShapes(); // before the first click can hit it
+    }
     m_keyboard.setBorrower(xWindow());
     m_stacking.setWindow(xWindow());
     m_window->show();
     m_window->raise();
+    m_connection.awaitToolkit();
     applyShapes(); // the scale may be another one here
 }
 
@@ -142,11 +144,11 @@ void X11Overlay::applyShapes()
                              0, 0, static_cast<uint32_t>(pixels.size()), pixels.constData());
     };
     set(XCB_SHAPE_SK_INPUT, m_inputRegion);
-    if (m_isBlending)
+    if (m_paintedShape && !m_isBlending)
+        set(XCB_SHAPE_SK_BOUNDING, *m_paintedShape);
+    else
         xcb_shape_mask(m_connection.xcb(), XCB_SHAPE_SO_SET, XCB_SHAPE_SK_BOUNDING, window, 0, 0,
                        XCB_PIXMAP_NONE);
-    else
-        set(XCB_SHAPE_SK_BOUNDING, m_paintedShape);
     m_connection.flush();
 }
 

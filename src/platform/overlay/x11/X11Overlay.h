@@ -7,6 +7,8 @@
 #include <QPointer>
 #include <QWindow>
 
+#include <optional>
+
 namespace velm {
 
 // The overlay as an override-redirect window: no window manager moves, decorates, focuses or hides it, and
@@ -38,7 +40,7 @@ private:
     StackingGuard m_stacking;
     QPointer<QWindow> m_window;
     QRegion m_inputRegion;
-    QRegion m_paintedShape;
+    std::optional<QRegion> m_paintedShape; // the whole window until it is told
     bool m_canShape = false;
     quint8 m_xfixesEvent = 0;
     xcb_atom_t m_compositor = XCB_ATOM_NONE;
