@@ -22,7 +22,7 @@ bool isPlainName(const QString &name)
 
 }
 
-ClipFolder::ClipFolder(QDir dir) : m_dir(std::move(dir)), m_aside(m_dir.filePath(asideName)) {}
+ClipFolder::ClipFolder(const QDir &dir) : m_dir(dir), m_aside(m_dir.filePath(asideName)) {}
 
 bool ClipFolder::write(const QString &name, const QByteArray &png) const
 {

@@ -12,7 +12,7 @@ namespace velm
 class ClipFolder
 {
 public:
-    explicit ClipFolder(QDir dir);
+    explicit ClipFolder(const QDir &dir);
 
     // Only for the user. From any thread.
     bool write(const QString &name, const QByteArray &png) const;

@@ -10,8 +10,6 @@ namespace velm
 class ClipListModel : public ValueListModel<ClipRow>
 {
     Q_OBJECT
-    QML_ELEMENT
-    QML_UNCREATABLE("ClipboardManager has it")
 
 public:
     using ValueListModel<ClipRow>::ValueListModel;

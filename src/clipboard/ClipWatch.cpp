@@ -98,7 +98,7 @@ void ClipWatch::takeInLater(const PasteboardContent &content, const Arrival &arr
                   .followsOwnWrite = arrival.followsOwnWrite};
     m_loop.runOn(
         *m_queue, this,
-        [content, source = arrival.source, folder = m_folder]() mutable {
+        [content = content, source = arrival.source, folder = m_folder]() mutable {
             return takeIn(std::move(content), source, folder);
         },
         [this, clip](std::optional<TakenClip> taken) mutable {

@@ -23,9 +23,9 @@ class ClipboardManager : public QObject, public SharedInstance<ClipboardManager>
     QML_ELEMENT
     QML_SINGLETON
     Q_PROPERTY(QString search READ search WRITE setSearch NOTIFY searchChanged)
-    Q_PROPERTY(velm::ClipFilter filter READ filter WRITE setFilter NOTIFY filterChanged)
+    Q_PROPERTY(velm::ClipFilters::ClipFilter filter READ filter WRITE setFilter NOTIFY filterChanged)
     Q_PROPERTY(bool isPaused READ isPaused NOTIFY isPausedChanged)
-    Q_PROPERTY(velm::ClipListModel *model READ model CONSTANT)
+    Q_PROPERTY(velm::ValueListBase *model READ model CONSTANT)          // roles: ClipRow's properties
     Q_PROPERTY(velm::ClipCounts counts READ counts NOTIFY itemsChanged) // for the chips
     Q_PROPERTY(int totalCount READ totalCount NOTIFY itemsChanged)
     Q_PROPERTY(int pinnedCount READ pinnedCount NOTIFY itemsChanged)

@@ -3,7 +3,7 @@ import Velm.Theme
 
 // Numbers that change, each digit in a cell as wide as "0", so that nothing shifts in any font. Their order
 // is the same in every language.
-Row {
+Item {
     id: root
 
     property string text
@@ -16,8 +16,8 @@ Row {
 
     Accessible.name: root.text
     Accessible.role: Accessible.StaticText
-    LayoutMirroring.childrenInherit: true
-    LayoutMirroring.enabled: false
+    implicitHeight: row.height
+    implicitWidth: row.width
 
     TextMetrics {
         id: zero
@@ -25,25 +25,31 @@ Row {
         font.weight: root.weight
         text: "0"
     }
-    Repeater {
-        model: root.text.length
+    Row {
+        id: row
+        LayoutMirroring.childrenInherit: true
+        LayoutMirroring.enabled: false
 
-        Text {
-            // qmllint disable unqualified
-            required property int index
-            readonly property string sign: root.text[index] ?? ""
-            readonly property bool isInCell: sign >= "0" && sign <= "9" && !(root.isFlush && index === 0)
+        Repeater {
+            model: root.text.length
 
-            Accessible.ignored: true
-            color: root.color
-            font.pixelSize: root.size
-            font.weight: root.weight
-            horizontalAlignment: Text.AlignHCenter
-            text: sign
-            textFormat: Text.PlainText
-            width: (isInCell ? root.cell : implicitWidth) + root.tracking
-            y: sign === ":" ? -root.size * Type.colonRise : 0
-            // qmllint enable unqualified
+            Text {
+                // qmllint disable unqualified
+                required property int index
+                readonly property string sign: root.text[index] ?? ""
+                readonly property bool isInCell: sign >= "0" && sign <= "9" && !(root.isFlush && index === 0)
+
+                Accessible.ignored: true
+                color: root.color
+                font.pixelSize: root.size
+                font.weight: root.weight
+                horizontalAlignment: Text.AlignHCenter
+                text: sign
+                textFormat: Text.PlainText
+                width: (isInCell ? root.cell : implicitWidth) + root.tracking
+                y: sign === ":" ? -root.size * Type.colonRise : 0
+                // qmllint enable unqualified
+            }
         }
     }
 }

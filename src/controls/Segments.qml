@@ -16,14 +16,13 @@ Rectangle {
     radius: Space.row
 
     Accessible.role: Accessible.PageTabList
+    activeFocusOnTab: true
 
     Keys.onLeftPressed: root.step(LayoutMirroring.enabled ? 1 : -1)
     Keys.onRightPressed: root.step(LayoutMirroring.enabled ? -1 : 1)
 
     function step(by: int) {
-        const next = Math.max(0, Math.min(root.items.length - 1, root.current + by))
-        root.chosen(next)
-        segments.itemAt(next).forceActiveFocus(Qt.TabFocusReason)
+        root.chosen(Math.max(0, Math.min(root.items.length - 1, root.current + by)))
     }
 
     Rectangle {
@@ -59,7 +58,7 @@ Rectangle {
                 height: row.height
                 isCheckable: true
                 isChecked: index === root.current
-                isTabStop: isChecked
+                isTabStop: false
                 label: modelData
                 role: Accessible.PageTab
                 width: words.implicitWidth + Space.xl
@@ -77,5 +76,9 @@ Rectangle {
                 }
             }
         }
+    }
+    FocusRing {
+        around: root.radius
+        visible: root.activeFocus
     }
 }

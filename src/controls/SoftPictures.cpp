@@ -13,11 +13,11 @@ namespace velm
 
 namespace
 {
-constexpr double blurRadius = 6;                          // points, of one box; three boxes make the soft edge
-constexpr double shadowReach = 36;                        // points; where the blur has ended
-constexpr int boxPasses = 3;                              // close enough to a Gaussian
-constexpr double lightFalloff = 2.2;                      // the exponent of how the light fades outwards
-constexpr int lightStops = 10;                            // enough that no ring is seen
+constexpr double blurRadius = 6;     // points, of one box; three boxes make the soft edge
+constexpr double shadowReach = 36;   // points; where the blur has ended
+constexpr int boxPasses = 3;         // close enough to a Gaussian
+constexpr double lightFalloff = 2.2; // the exponent of how the light fades outwards
+constexpr int lightStops = 10;       // enough that no ring is seen
 constexpr QImage::Format painted = QImage::Format_ARGB32_Premultiplied;
 
 // One box pass over the rows of an alpha picture; the result is transposed, so that two make both directions.
@@ -56,7 +56,8 @@ SoftShadow makeShadow(double radius, double scale)
     painter.setPen(Qt::NoPen);
     painter.setBrush(Qt::black);
     const int inset = shadow.reach;
-    painter.drawRoundedRect(alpha.rect().adjusted(inset, inset, -inset, -inset), radius * scale, radius * scale);
+    painter.drawRoundedRect(alpha.rect().adjusted(inset, inset, -inset, -inset), radius * scale,
+                            radius * scale);
     painter.end();
     for (int pass = 0; pass < 2 * boxPasses; ++pass)
         alpha = boxBlurred(alpha, qRound(blurRadius * scale));

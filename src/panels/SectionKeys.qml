@@ -5,7 +5,7 @@ import Velm.Island
 QtObject {
     id: root
 
-    readonly property list<int> tabs: IslandController.visibleTabs
+    readonly property var tabs: IslandController.visibleTabs
 
     function take(event: var): bool {
         if (IslandController.mode !== IslandMode.Expanded)

@@ -11,8 +11,7 @@ namespace velm
 ThisComputer::ThisComputer(const PasteKeys &pasteKeys, const Haptics &haptics, FileManager &fileManager,
                            const QString &dataFolder)
     : m_pasteKeys(pasteKeys), m_haptics(haptics), m_fileManager(fileManager), m_dataFolder(dataFolder)
-{
-}
+{}
 
 ThisComputer *ThisComputer::create(QQmlEngine *, QJSEngine *) { return sharedForQml<ThisComputer>(); }
 

@@ -4,11 +4,11 @@
 
 #include <compare>
 
-namespace velm {
+namespace velm
+{
 
 // A number of bytes; a strong type so that it is never taken for a count.
-struct Bytes
-{
+struct Bytes {
     qint64 count = 0;
 
     constexpr auto operator<=>(const Bytes &) const = default;

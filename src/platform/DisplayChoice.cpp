@@ -2,9 +2,11 @@
 
 #include <xcb/xcb.h>
 
-namespace velm {
+namespace velm
+{
 
-namespace {
+namespace
+{
 
 bool xServerAnswers()
 {

@@ -2,7 +2,8 @@
 
 #include "platform/Result.h"
 
-namespace velm {
+namespace velm
+{
 
 // Chooses the display system to start on, before the application object exists, and tells Qt of it through
 // QT_QPA_PLATFORM. A choice that stands there already is kept. Gives its Qt name ("xcb", "offscreen"), or

@@ -15,13 +15,13 @@
 
 #include <memory>
 
-namespace velm {
+namespace velm
+{
 
 class RunLoop;
 
 // Every platform service, each by the back-end that was found to work; none is null.
-struct Platform
-{
+struct Platform {
     QString name;                     // "x11", "offscreen": the display system in use, for people
     std::unique_ptr<QObject> display; // what the services below share; it goes after them
     std::unique_ptr<Screens> screens;

@@ -5,11 +5,11 @@
 #include <utility>
 #include <variant>
 
-namespace velm {
+namespace velm
+{
 
 // Why something was refused: one sentence for the user, without a full stop.
-struct Refusal
-{
+struct Refusal {
     QString sentence;
 
     bool operator==(const Refusal &) const = default;

@@ -2,7 +2,8 @@
 
 #include <QtGlobal>
 
-namespace velm {
+namespace velm
+{
 
 // Hands out the one T that the composition root made. Nothing is created here: asking before the root
 // has made it, or making a second one, is a bug. Called by the root and the QML glue, by nobody else.

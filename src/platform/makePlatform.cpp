@@ -25,9 +25,11 @@
 
 #include <QGuiApplication>
 
-namespace velm {
+namespace velm
+{
 
-namespace {
+namespace
+{
 
 // What every display system shares.
 void addCommonServices(Platform &platform, RunLoop &loop)

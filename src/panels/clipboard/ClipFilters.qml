@@ -14,11 +14,16 @@ Flickable {
     readonly property var names: [qsTr("All"), qsTr("Pinned"), qsTr("Text"), qsTr("Links"), qsTr("Images"), qsTr("Files")]
     readonly property var numbers: [counts.all, counts.pinned, counts.text, counts.link, counts.image, counts.files]
 
+    function show(start: real, length: real) {
+        root.contentX = Math.max(start + length - root.width, Math.min(root.contentX, start))
+    }
+
     Accessible.name: qsTr("Show")
     Accessible.role: Accessible.Grouping
     boundsBehavior: Flickable.StopAtBounds
     clip: contentWidth > width
     contentWidth: row.width
+    contentX: LayoutMirroring.enabled ? contentWidth - width : 0
     height: Space.control
     interactive: contentWidth > width
     width: Math.min(row.implicitWidth, room)
@@ -38,6 +43,7 @@ Flickable {
                 count: root.numbers[index] // qmllint disable unqualified
                 isChecked: ClipboardManager.filter === index
                 text: modelData
+                onActiveFocusChanged: root.show(x, width) // qmllint disable unqualified
                 onActivated: ClipboardManager.filter = index
             }
         }

@@ -29,12 +29,13 @@ ListView {
         const line = root.line(index)
         if (!line)
             return false
+        const id = line.row.id // the rows go when the island closes
         root.currentIndex = index
         if (paste)
             IslandController.close()
         else
             line.confirm()
-        ClipboardManager.use(line.row.id, paste)
+        ClipboardManager.use(id, paste)
         return true
     }
 
@@ -71,21 +72,27 @@ ListView {
         // qmllint enable unqualified
     }
 
-    add: Transition {
+    // A transition that takes no time would never let go of its row.
+    add: Motion.row > 0 ? coming : null
+    displaced: Motion.row > 0 ? yielding : null
+    move: Motion.row > 0 ? yielding : null
+    remove: Motion.row > 0 ? going : null
+
+    Transition {
+        id: coming
         SequentialAnimation {
             PropertyAction { property: "opacity"; value: 0 }
             PauseAnimation { duration: Motion.row * 0.4 }
             NumberAnimation { property: "opacity"; to: 1; duration: Motion.row * 0.6 }
         }
     }
-    remove: Transition {
+    Transition {
+        id: going
         NumberAnimation { property: "opacity"; to: 0; duration: Motion.row * 0.4 }
     }
-    displaced: Transition {
+    Transition {
+        id: yielding
         NumberAnimation { property: "y"; duration: Motion.row * 0.6; easing.type: Easing.OutCubic }
         NumberAnimation { property: "opacity"; to: 1; duration: Motion.row * 0.6 }
-    }
-    move: Transition {
-        NumberAnimation { property: "y"; duration: Motion.row; easing.type: Easing.OutCubic }
     }
 }

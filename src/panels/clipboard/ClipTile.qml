@@ -20,9 +20,15 @@ SymbolTile {
 
     Rectangle {
         anchors.fill: parent
-        border.color: Ink.hairline
+        color: root.row.swatch ?? "transparent"
+        radius: root.radius
+        visible: root.isSwatch
+    }
+    Rectangle { // so that a dark one has an edge
+        anchors.fill: parent
+        border.color: Ink.edge
         border.width: Space.hair
-        color: root.row.swatch
+        color: "transparent"
         radius: root.radius
         visible: root.isSwatch
     }

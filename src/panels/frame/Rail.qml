@@ -8,7 +8,8 @@ Item {
     id: root
 
     property bool isSettled: false
-    readonly property int current: IslandController.visibleTabs.indexOf(IslandController.tab)
+    readonly property var tabs: IslandController.visibleTabs
+    readonly property int current: tabs.indexOf(IslandController.tab)
     readonly property bool isInSettings: IslandController.showSettings
     readonly property real settingsY: height - Space.railSettings
 
@@ -35,7 +36,7 @@ Item {
         }
     }
     Repeater {
-        model: IslandController.visibleTabs
+        model: root.tabs
 
         RailTile {
             required property int index

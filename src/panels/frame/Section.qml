@@ -14,6 +14,7 @@ FocusScope {
     property color accent: Ink.text
     property bool isCurrent: false // on its way in or there
     property bool isShown: false // to be seen, on its way out too
+    readonly property real titleRoom: IslandController.isHardware ? Space.housingStart - Space.rail - Space.xl : width
     property alias actions: actions.data
     default property alias content: body.data
 
@@ -31,7 +32,7 @@ FocusScope {
         height: Type.grow(Space.xl)
         strong: true
         text: root.title
-        width: (IslandController.isHardware ? Space.housingStart - Space.rail : actions.x) - Space.xl
+        width: Math.min(parent.width - actions.width - Space.xxl - Space.m, root.titleRoom)
     }
     Label {
         anchors.left: title.left

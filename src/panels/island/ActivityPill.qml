@@ -59,7 +59,7 @@ Reveal {
             anchors.verticalCenter: parent.verticalCenter
             strong: true
             text: root.shown.leading
-            width: Math.min(implicitWidth, parent.width - x - Space.pillEnd)
+            width: Math.min(implicitWidth, parent.width - tile.width - 2 * Space.pillEnd - Space.m)
         }
         Label {
             anchors.left: leading.right

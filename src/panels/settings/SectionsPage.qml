@@ -7,7 +7,8 @@ import Velm.Theme
 ScrollPage {
     id: root
 
-    readonly property bool isOneLeft: IslandController.visibleTabs.length === 1
+    readonly property var shown: IslandController.visibleTabs
+    readonly property bool isOneLeft: shown.length === 1
 
     SettingsGroup {
         heading: qsTr("Turn off anything you don't use and it disappears from the rail. Everything is on to begin with.")
@@ -22,7 +23,7 @@ ScrollPage {
                 accent: Ink.tint(VelmTabs.accent(modelData))
                 detail: VelmTabs.blurb(modelData)
                 isLast: index === VelmTabs.all.length - 1
-                isOn: IslandController.visibleTabs.indexOf(modelData) >= 0
+                isOn: root.shown.includes(modelData) // qmllint disable unqualified
                 lock: isOn && root.isOneLeft ? qsTr("Keep at least one section") : "" // qmllint disable unqualified
                 symbol: VelmTabs.icon(modelData)
                 symbolInk: isOn ? accent : Ink.second

@@ -5,7 +5,8 @@
 
 #include <optional>
 
-namespace velm {
+namespace velm
+{
 
 // The session's message bus; absent where the session has none. None is started for the asking.
 inline std::optional<QDBusConnection> sessionBus()

@@ -3,7 +3,8 @@
 #include <QObject>
 #include <QStringList>
 
-namespace velm {
+namespace velm
+{
 
 // Drags in progress anywhere on the desktop, where the display system tells of them before they reach
 // the overlay.

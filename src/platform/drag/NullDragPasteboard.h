@@ -2,7 +2,8 @@
 
 #include "platform/drag/DragPasteboard.h"
 
-namespace velm {
+namespace velm
+{
 
 // A display system that does not tell of drags.
 class NullDragPasteboard final : public DragPasteboard

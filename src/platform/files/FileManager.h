@@ -2,7 +2,8 @@
 
 #include <QString>
 
-namespace velm {
+namespace velm
+{
 
 // The desktop's file manager.
 class FileManager

@@ -4,11 +4,11 @@
 
 #include <optional>
 
-namespace velm {
+namespace velm
+{
 
 // A program as the person sees it.
-struct ProgramInfo
-{
+struct ProgramInfo {
     QString name;       // from its desktop entry, else its window's class
     QString identifier; // desktop entry's id without ".desktop", else the window's class
     bool isTerminal = false;

@@ -2,7 +2,8 @@
 
 #include "platform/front/FrontProgram.h"
 
-namespace velm {
+namespace velm
+{
 
 // A display system that does not tell which window is active.
 class NullFrontProgram final : public FrontProgram

@@ -1,6 +1,7 @@
 #pragma once
 
-namespace velm {
+namespace velm
+{
 
 enum class HapticPattern { Alignment, LevelChange };
 

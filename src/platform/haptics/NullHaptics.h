@@ -2,7 +2,8 @@
 
 #include "platform/haptics/Haptics.h"
 
-namespace velm {
+namespace velm
+{
 
 // No trackpad here taps back.
 class NullHaptics final : public Haptics

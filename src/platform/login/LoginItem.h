@@ -2,7 +2,8 @@
 
 #include "platform/Result.h"
 
-namespace velm {
+namespace velm
+{
 
 // Starts the program when the person logs in.
 class LoginItem

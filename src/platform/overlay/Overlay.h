@@ -7,11 +7,11 @@
 
 class QWindow;
 
-namespace velm {
+namespace velm
+{
 
 // What the display system does for the overlay; the settings' page says the missing ones in words.
-struct OverlayAbilities
-{
+struct OverlayAbilities {
     bool clickThrough = false; // the input region is honoured
     bool keyboardOnDemand = false;
     bool allWorkspaces = false;

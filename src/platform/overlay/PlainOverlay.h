@@ -5,7 +5,8 @@
 #include <QPointer>
 #include <QWindow>
 
-namespace velm {
+namespace velm
+{
 
 // Where the display system has nothing to offer: an ordinary window in the right place.
 class PlainOverlay final : public Overlay

@@ -2,7 +2,8 @@
 
 #include "platform/pasteboard/Pasteboard.h"
 
-namespace velm {
+namespace velm
+{
 
 // A pasteboard that no other program shares: it keeps what is written, and nothing else ever changes it.
 class OwnPasteboard final : public Pasteboard

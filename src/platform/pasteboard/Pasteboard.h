@@ -9,11 +9,11 @@
 #include <functional>
 #include <map>
 
-namespace velm {
+namespace velm
+{
 
 // One type's bytes as they were read.
-struct PasteboardData
-{
+struct PasteboardData {
     QString type;     // a MIME type, as offered
     QByteArray bytes; // null when the owner offered the type and then refused it
 };
@@ -26,8 +26,7 @@ enum class PasteboardOutcome {
 };
 
 // The content of one change of the pasteboard.
-struct PasteboardContent
-{
+struct PasteboardContent {
     quint64 change = 0;
     QStringList types; // offered, without the display system's own bookkeeping
     QList<PasteboardData> data;

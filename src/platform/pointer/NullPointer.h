@@ -2,7 +2,8 @@
 
 #include "platform/pointer/Pointer.h"
 
-namespace velm {
+namespace velm
+{
 
 // A display system that does not tell of the pointer.
 class NullPointer final : public Pointer

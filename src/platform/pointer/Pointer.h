@@ -3,7 +3,8 @@
 #include <QObject>
 #include <QPoint>
 
-namespace velm {
+namespace velm
+{
 
 // The pointer wherever it is on the desktop. A resting pointer costs nothing: notices come by events.
 class Pointer : public QObject

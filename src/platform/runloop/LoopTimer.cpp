@@ -1,6 +1,7 @@
 #include "platform/runloop/LoopTimer.h"
 
-namespace velm {
+namespace velm
+{
 
 void LoopTimer::startOnce(RunLoop::Duration delay, RunLoop::Task task)
 {

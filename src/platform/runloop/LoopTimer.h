@@ -2,7 +2,8 @@
 
 #include "platform/runloop/RunLoop.h"
 
-namespace velm {
+namespace velm
+{
 
 // A timer as a member: at most one task is armed, starting again replaces it, and it stops when destroyed.
 class LoopTimer

@@ -3,9 +3,11 @@
 #include <QSemaphore>
 #include <QThread>
 
-namespace velm {
+namespace velm
+{
 
-namespace {
+namespace
+{
 
 // One thread with an event loop of its own; it starts with its first work, so an unused queue costs nothing.
 class ThreadQueue final : public SerialQueue

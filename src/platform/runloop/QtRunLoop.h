@@ -7,7 +7,8 @@
 #include <map>
 #include <unordered_map>
 
-namespace velm {
+namespace velm
+{
 
 // The run loop of the running program: all timers share one kernel timer, armed for the earliest of them,
 // so that a resting program is never woken.
@@ -27,8 +28,7 @@ private:
     void runDue();
     void rearm();
 
-    struct Timer
-    {
+    struct Timer {
         TimerId id;
         Task task;
     };

@@ -8,7 +8,8 @@
 #include <functional>
 #include <memory>
 
-namespace velm {
+namespace velm
+{
 
 // Work for one thread off the main one, in the order in which it was enqueued.
 class SerialQueue

@@ -2,9 +2,11 @@
 
 #include <algorithm>
 
-namespace velm {
+namespace velm
+{
 
-namespace {
+namespace
+{
 
 // Keeps its work until the loop comes round to it, as a thread would, but in the loop's own order.
 class VirtualQueue final : public SerialQueue

@@ -6,7 +6,8 @@
 #include <map>
 #include <mutex>
 
-namespace velm {
+namespace velm
+{
 
 // A run loop whose clock moves only when told to. Each task runs at its own due time, in order; background
 // work runs on the caller's thread as a task of its own, so a run is the same twice.
@@ -41,8 +42,7 @@ private:
     void runPosted();
     void moveTo(Instant instant);
 
-    struct Timer
-    {
+    struct Timer {
         TimerId id;
         Task task;
     };

@@ -5,11 +5,11 @@
 
 #include <optional>
 
-namespace velm {
+namespace velm
+{
 
 // The menu-bar areas left and right of a camera housing, in points.
-struct HousingAreas
-{
+struct HousingAreas {
     QSizeF left;
     QSizeF right;
 
@@ -18,8 +18,7 @@ struct HousingAreas
 
 // One screen as it is now. Geometry in points (device pixels divided by the scale), in the desktop's own
 // coordinates.
-struct ScreenInfo
-{
+struct ScreenInfo {
     QString connector; // "eDP-1", "HDMI-A-1"; empty when the display system does not tell
     QRect geometry;
     int topInset = 0; // height that panels reserve at the top edge

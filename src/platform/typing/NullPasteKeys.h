@@ -2,7 +2,8 @@
 
 #include "platform/typing/PasteKeys.h"
 
-namespace velm {
+namespace velm
+{
 
 // A display system that lets no program press keys.
 class NullPasteKeys final : public PasteKeys

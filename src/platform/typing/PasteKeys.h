@@ -2,7 +2,8 @@
 
 #include <QString>
 
-namespace velm {
+namespace velm
+{
 
 enum class PasteChord { ControlV, ControlShiftV };
 

@@ -7,9 +7,11 @@
 #include <cmath>
 #include <limits>
 
-namespace velm {
+namespace velm
+{
 
-namespace {
+namespace
+{
 
 QRectF inPixels(const QScreen &screen)
 {

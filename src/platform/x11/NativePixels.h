@@ -6,7 +6,8 @@
 
 #include <xcb/xcb.h>
 
-namespace velm {
+namespace velm
+{
 
 // Between the X server's device pixels and the desktop's points. Each screen is scaled about its own top
 // left corner, which is at the same place in both.

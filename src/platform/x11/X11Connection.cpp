@@ -6,9 +6,11 @@
 
 #include <cstring>
 
-namespace velm {
+namespace velm
+{
 
-namespace {
+namespace
+{
 
 const xcb_screen_t *screenOf(xcb_connection_t *connection, int number)
 {
@@ -39,11 +41,10 @@ X11Connection::X11Connection(xcb_connection_t *xcb, int screenNumber)
 {
     connect(m_notifier, &QSocketNotifier::activated, this, &X11Connection::readEvents);
     // Waiting for a reply takes events off the socket, which then no longer wakes the loop for them; and
-    // what was asked since must not wait in the buffer either.
-    connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock, this, [this] {
-        tellQueued();
-        flush();
-    });
+    // what was asked since must not wait in the buffer either. The loop either blocks or only looks in.
+    const auto *loop = QAbstractEventDispatcher::instance();
+    connect(loop, &QAbstractEventDispatcher::aboutToBlock, this, &X11Connection::tellQueued);
+    connect(loop, &QAbstractEventDispatcher::awake, this, &X11Connection::tellQueued);
 }
 
 X11Connection::~X11Connection()
@@ -103,6 +104,7 @@ void X11Connection::tellQueued()
 {
     while (XcbReply<xcb_generic_event_t> event{xcb_poll_for_queued_event(m_xcb)})
         Q_EMIT received(event.get());
+    flush();
 }
 
 // A dead socket stays readable for ever.

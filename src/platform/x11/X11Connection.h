@@ -11,7 +11,8 @@
 
 class QSocketNotifier;
 
-namespace velm {
+namespace velm
+{
 
 // The back-ends' own line to the X server on the main thread, beside Qt's: what they ask to be told
 // arrives here and Qt never sees it. Once the server has gone, requests do nothing and replies are null.

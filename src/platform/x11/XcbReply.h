@@ -3,10 +3,10 @@
 #include <cstdlib>
 #include <memory>
 
-namespace velm {
-
-struct FreeReply
+namespace velm
 {
+
+struct FreeReply {
     void operator()(void *reply) const { std::free(reply); }
 };
 

@@ -9,9 +9,11 @@
 #include <QFileInfo>
 #include <QUrl>
 
-namespace velm {
+namespace velm
+{
 
-namespace {
+namespace
+{
 
 void openFolderOf(const QString &path)
 {

@@ -4,7 +4,8 @@
 
 #include <QObject>
 
-namespace velm {
+namespace velm
+{
 
 // The desktop's file manager by its bus name (org.freedesktop.FileManager1); where none answers, whatever
 // opens folders.

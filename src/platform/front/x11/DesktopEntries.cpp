@@ -5,9 +5,11 @@
 #include <QLocale>
 #include <QStandardPaths>
 
-namespace velm {
+namespace velm
+{
 
-namespace {
+namespace
+{
 
 constexpr qint64 mostLines = 2000; // an entry has some hundred, most of them translations
 

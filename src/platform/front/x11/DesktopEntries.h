@@ -5,7 +5,8 @@
 #include <QHash>
 #include <QStringList>
 
-namespace velm {
+namespace velm
+{
 
 // The desktop entries of the installed programs (freedesktop.org, Desktop Entry format),
 // read when first asked for.
@@ -17,8 +18,7 @@ public:
     std::optional<ProgramInfo> find(const QString &windowClass);
 
 private:
-    struct Entry
-    {
+    struct Entry {
         ProgramInfo program;
         QString windowClass;
     };

@@ -2,9 +2,11 @@
 
 #include "platform/x11/X11Connection.h"
 
-namespace velm {
+namespace velm
+{
 
-namespace {
+namespace
+{
 
 // Terminals that come without a desktop entry, or whose entry has another name than their class.
 bool isKnownTerminal(const QString &windowClass)

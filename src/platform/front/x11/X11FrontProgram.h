@@ -4,7 +4,8 @@
 
 #include <xcb/xcb.h>
 
-namespace velm {
+namespace velm
+{
 
 class X11Connection;
 
@@ -17,8 +18,7 @@ public:
     std::optional<ProgramInfo> current() const override;
 
 private:
-    struct WindowClass
-    {
+    struct WindowClass {
         QString instance;
         QString name;
     };

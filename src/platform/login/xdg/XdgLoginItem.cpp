@@ -5,9 +5,11 @@
 #include <QSaveFile>
 #include <QStandardPaths>
 
-namespace velm {
+namespace velm
+{
 
-namespace {
+namespace
+{
 
 QString autostartFolder()
 {

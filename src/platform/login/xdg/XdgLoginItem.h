@@ -2,7 +2,8 @@
 
 #include "platform/login/LoginItem.h"
 
-namespace velm {
+namespace velm
+{
 
 // An entry in the person's autostart folder (freedesktop.org, Autostart).
 class XdgLoginItem final : public LoginItem

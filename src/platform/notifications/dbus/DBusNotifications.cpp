@@ -5,7 +5,8 @@
 #include <QDBusMessage>
 #include <QVariantMap>
 
-namespace velm {
+namespace velm
+{
 
 void DBusNotifications::post(const QString &title, const QString &body, NotificationSound sound)
 {

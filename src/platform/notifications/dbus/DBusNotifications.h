@@ -2,7 +2,8 @@
 
 #include "platform/notifications/Notifications.h"
 
-namespace velm {
+namespace velm
+{
 
 // The desktop's notification service (org.freedesktop.Notifications). Quiet where there is none; never waits
 // for it.

@@ -2,7 +2,8 @@
 
 #include "platform/x11/X11Connection.h"
 
-namespace velm {
+namespace velm
+{
 
 KeyboardLoan::KeyboardLoan(X11Connection &connection)
     : m_connection(connection), m_activeWindow(connection.atom("_NET_ACTIVE_WINDOW"))

@@ -4,7 +4,8 @@
 
 #include <xcb/xcb.h>
 
-namespace velm {
+namespace velm
+{
 
 class X11Connection;
 
@@ -28,8 +29,7 @@ Q_SIGNALS:
     void lost();
 
 private:
-    struct Lender
-    {
+    struct Lender {
         xcb_window_t active = XCB_WINDOW_NONE; // as the window manager says; toolkits focus a child of it
         xcb_window_t focus = XCB_WINDOW_NONE;
     };

@@ -7,9 +7,11 @@
 
 using namespace std::chrono_literals;
 
-namespace velm {
+namespace velm
+{
 
-namespace {
+namespace
+{
 
 constexpr auto settleDelay = 100ms; // whoever raises a window often raises several
 constexpr auto truce = 3s;          // rises further apart than this are not one quarrel

@@ -8,7 +8,8 @@
 
 #include <optional>
 
-namespace velm {
+namespace velm
+{
 
 class X11Connection;
 

@@ -9,9 +9,11 @@
 #include <xcb/shape.h>
 #include <xcb/xfixes.h>
 
-namespace velm {
+namespace velm
+{
 
-namespace {
+namespace
+{
 
 QScreen *qtScreen(const ScreenInfo &info)
 {
@@ -154,7 +156,8 @@ void X11Overlay::applyShapes()
 
 xcb_window_t X11Overlay::xWindow() const
 {
-    return m_window && m_window->handle() ? static_cast<xcb_window_t>(m_window->winId()) : xcb_window_t{XCB_WINDOW_NONE};
+    return m_window && m_window->handle() ? static_cast<xcb_window_t>(m_window->winId())
+                                          : xcb_window_t{XCB_WINDOW_NONE};
 }
 
 }

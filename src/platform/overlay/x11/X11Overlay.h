@@ -9,7 +9,8 @@
 
 #include <optional>
 
-namespace velm {
+namespace velm
+{
 
 // The overlay as an override-redirect window: no window manager moves, decorates, focuses or hides it, and
 // it is on every workspace. Clicks pass through where its input shape is not; where no compositor blends,

@@ -5,9 +5,11 @@
 
 #include <xcb/xinput.h>
 
-namespace velm {
+namespace velm
+{
 
-namespace {
+namespace
+{
 
 constexpr auto sampleInterval = std::chrono::nanoseconds(std::chrono::seconds(1)) / 30;
 
@@ -126,8 +128,7 @@ void X11Pointer::tell(QPoint position)
 
 void X11Pointer::select()
 {
-    struct
-    {
+    struct {
         xcb_input_event_mask_t head;
         quint32 mask;
     } wanted{{XCB_INPUT_DEVICE_ALL_MASTER, 1},

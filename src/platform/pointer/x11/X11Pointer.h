@@ -5,7 +5,8 @@
 
 #include <xcb/xcb.h>
 
-namespace velm {
+namespace velm
+{
 
 class X11Connection;
 

@@ -3,7 +3,8 @@
 #include <QGuiApplication>
 #include <QScreen>
 
-namespace velm {
+namespace velm
+{
 
 QtScreens::QtScreens()
 {

@@ -4,7 +4,8 @@
 
 class QScreen;
 
-namespace velm {
+namespace velm
+{
 
 // The screens as the toolkit knows them. What changes in one go is told once.
 class QtScreens final : public Screens

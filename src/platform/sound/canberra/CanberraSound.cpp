@@ -11,9 +11,11 @@
 
 using namespace std::chrono_literals;
 
-namespace velm {
+namespace velm
+{
 
-namespace {
+namespace
+{
 
 constexpr auto idleDelay = 5s;
 constexpr auto farewell = 300ms; // for work at hand when the program ends

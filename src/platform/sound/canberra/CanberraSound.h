@@ -5,7 +5,8 @@
 
 #include <QObject>
 
-namespace velm {
+namespace velm
+{
 
 // Plays by libcanberra, on a queue of its own: reaching the sound server may take long. The line to the
 // server is open only while sounds are played and for a few seconds after: it would wake the program.

@@ -5,9 +5,11 @@
 #include <numbers>
 #include <random>
 
-namespace velm {
+namespace velm
+{
 
-namespace {
+namespace
+{
 
 constexpr double attackSeconds = 0.003;  // shorter is heard as a click
 constexpr double releaseSeconds = 0.020; // so that nothing is cut off

@@ -3,15 +3,15 @@
 #include <chrono>
 #include <vector>
 
-namespace velm {
+namespace velm
+{
 
 // Sound as numbers from -1 to 1, 44,100 a second.
 using Samples = std::vector<double>;
 constexpr int sampleRate = 44100;
 
 // One decaying partial of a struck thing.
-struct Partial
-{
+struct Partial {
     double hertz;
     double loudness;
     std::chrono::milliseconds halfLife;
@@ -19,15 +19,13 @@ struct Partial
 };
 
 // A touch of noise as of a finger or a cork, softened by a low pass.
-struct Breath
-{
+struct Breath {
     double loudness = 0;
     double cutoffHertz = 1000;
     std::chrono::milliseconds halfLife{10};
 };
 
-struct Voice
-{
+struct Voice {
     std::chrono::milliseconds length;
     std::vector<Partial> partials;
     Breath breath;

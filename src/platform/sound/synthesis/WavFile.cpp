@@ -4,9 +4,11 @@
 #include <cstdint>
 #include <fstream>
 
-namespace velm {
+namespace velm
+{
 
-namespace {
+namespace
+{
 
 // All numbers of the format are little endian.
 void number(std::string &out, uint32_t value, int bytes)

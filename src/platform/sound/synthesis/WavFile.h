@@ -4,7 +4,8 @@
 
 #include <string>
 
-namespace velm {
+namespace velm
+{
 
 // Writes one channel of 16-bit PCM (RIFF WAVE). False when the file cannot be written.
 bool writeWav(const std::string &path, const Samples &samples);

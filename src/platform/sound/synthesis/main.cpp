@@ -5,7 +5,8 @@
 
 using namespace std::chrono_literals;
 
-namespace {
+namespace
+{
 
 using velm::Voice;
 

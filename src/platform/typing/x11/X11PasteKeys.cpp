@@ -7,9 +7,11 @@
 #include <algorithm>
 #include <optional>
 
-namespace velm {
+namespace velm
+{
 
-namespace {
+namespace
+{
 
 // Key symbols of X11/keysymdef.h.
 constexpr xcb_keysym_t letterV = 0x76;
@@ -17,8 +19,7 @@ constexpr xcb_keysym_t leftShift = 0xffe1;
 constexpr xcb_keysym_t leftControl = 0xffe3;
 
 // The server's keyboard map: for each key code, a row of symbols by group and level.
-struct KeyMap
-{
+struct KeyMap {
     xcb_keycode_t first;
     int columns;
     int keys;

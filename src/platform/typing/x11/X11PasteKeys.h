@@ -6,7 +6,8 @@
 
 #include <xcb/xcb.h>
 
-namespace velm {
+namespace velm
+{
 
 class X11Connection;
 
