@@ -8,4 +8,12 @@
         <translation>Trace a slow glow across the notch once your computer is idle</translation>
     </message>
 </context>
+<context>
+    <name>StatusLine</name>
+    <message>
+        <source>your Mac is idle</source>
+        <translation>your computer is idle</translation>
+    </message>
+</context>
 </TS>
+

@@ -18,14 +18,12 @@ constexpr double pixelsPerInch = 96; // what a point size means where no screen 
 
 QString installSymbolFont()
 {
-    static const int id = QFontDatabase::addApplicationFont(QStringLiteral(":/fonts/MaterialIcons-Regular.ttf"));
+    static const int id =
+        QFontDatabase::addApplicationFont(QStringLiteral(":/fonts/MaterialIcons-Regular.ttf"));
     return QFontDatabase::applicationFontFamilies(id).value(0);
 }
 
-QString Fonts::fixedFamily() const
-{
-    return QFontDatabase::systemFont(QFontDatabase::FixedFont).family();
-}
+QString Fonts::fixedFamily() const { return QFontDatabase::systemFont(QFontDatabase::FixedFont).family(); }
 
 double Fonts::scale() const
 {

@@ -84,7 +84,7 @@ Section {
         anchors.right: parent.right
         anchors.top: filters.bottom
         anchors.topMargin: Space.m
-        isShown: root.isShown
+        isShown: root.isCurrent || root.isShown
     }
     Fade {
         anchors.bottom: parent.bottom

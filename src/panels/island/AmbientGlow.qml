@@ -32,7 +32,7 @@ Item {
         height: Space.glow.height
         tint: Ink.tint(VelmTabs.accent(IslandController.tab))
         width: Space.glow.width
-        // On whole pixels, so that nothing is drawn between two of them.
-        x: Math.round((root.isWalking ? root.way : 0.5) * root.edge - width / 2)
+        // From one second pixel to the next, so that nothing is drawn between two of them.
+        x: 2 * Math.round(((root.isWalking ? root.way : 0.5) * root.edge - width / 2) / 2)
     }
 }
