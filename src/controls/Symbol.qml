@@ -7,7 +7,7 @@ Text {
 
     property string name
     property int size: Space.symbol
-    readonly property bool isFlipped: LayoutMirroring.enabled && Symbols.mirrored.includes(root.name)
+    readonly property bool isFlipped: LayoutMirroring.enabled && Symbols.isMirrored(root.name)
 
     Accessible.ignored: true
     color: Ink.text

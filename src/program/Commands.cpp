@@ -31,7 +31,8 @@ CommandTable commandTable(Application *application)
     table.add(islandCommands(application ? &application->island() : nullptr));
     table.add(programCommands(application));
     table.add(preferencesCommands(application ? &application->preferences() : nullptr));
-    table.add(clipCommands(application ? &application->clipboard() : nullptr, application ? &application->loop() : nullptr));
+    table.add(clipCommands(application ? &application->clipboard() : nullptr,
+                           application ? &application->loop() : nullptr));
     return table;
 }
 

@@ -4,9 +4,11 @@
 #include "program/Application.h"
 #include "theme/Fonts.h"
 
+#include <QGuiApplication>
 #include <QLocale>
 #include <QQmlEngine>
 #include <QQuickWindow>
+#include <QStyleHints>
 #include <QTranslator>
 #include <QtQml/QQmlExtensionPlugin>
 
@@ -43,6 +45,8 @@ void prepareQml()
     if (qgetenv("VELM_RENDERER") != "gpu")
         QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
     QQuickWindow::setDefaultAlphaBuffer(true);
+    QGuiApplication::styleHints()->setCursorFlashTime(
+        0); // a blinking caret would wake the machine twice a second
     installSymbolFont();
     installCatalogue();
 }

@@ -3,6 +3,7 @@
 #include "clipboard/ClipboardManager.h"
 #include "island/IslandController.h"
 #include "program/MenuBarIcon.h"
+#include "theme/Symbols.h"
 
 #include <QDBusConnection>
 
@@ -25,11 +26,11 @@ StatusItem::StatusItem(IslandController &island, ClipboardManager &clipboard, st
 
 void StatusItem::buildMenu(std::function<void()> quit)
 {
+    const QColor ink = m_menu.palette().color(QPalette::WindowText);
     m_menu.addAction(tr("Open Velm"), this, [this] { m_island.open(); });
     m_menu.addSeparator();
     for (const VelmTab tab : allTabs())
-        m_menu.addAction(title(tab), this,
-                         [this, tab] { openTab(tab); });
+        m_menu.addAction(symbolIcon(icon(tab), ink), title(tab), this, [this, tab] { openTab(tab); });
     m_menu.addSeparator();
     m_menu.addAction(tr("Settings…"), QKeySequence(Qt::CTRL | Qt::Key_Comma), this, [this] {
         m_island.openSettings(m_island.settingsPage(), IslandController::Focus::Take);

@@ -18,6 +18,11 @@ void KeyboardLoan::setBorrower(xcb_window_t window)
         return;
     m_borrower = window;
     m_isOut = false;
+    if (window == XCB_WINDOW_NONE)
+        return;
+    const quint32 events = XCB_EVENT_MASK_FOCUS_CHANGE;
+    xcb_change_window_attributes(m_connection.xcb(), window, XCB_CW_EVENT_MASK, &events);
+    m_connection.flush();
 }
 
 void KeyboardLoan::take()

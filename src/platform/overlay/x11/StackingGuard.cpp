@@ -22,45 +22,38 @@ constexpr int mostRisesInRow = 3;
 StackingGuard::StackingGuard(X11Connection &connection, RunLoop &loop)
     : m_connection(connection), m_loop(loop), m_pending(loop)
 {
+    // Visibility events would do with fewer wakeups, but the server redirects windows with an alpha channel
+    // and holds them for visible whatever lies above.
+    connection.selectOnRoot(XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY);
     connect(&connection, &X11Connection::received, this, &StackingGuard::handle);
 }
 
 void StackingGuard::setWindow(xcb_window_t window)
 {
-    if (window == m_window)
-        return;
     m_window = window;
-    m_pending.stop();
     if (window == XCB_WINDOW_NONE)
-        return;
-    const quint32 events = XCB_EVENT_MASK_VISIBILITY_CHANGE | XCB_EVENT_MASK_FOCUS_CHANGE;
-    xcb_change_window_attributes(m_connection.xcb(), window, XCB_CW_EVENT_MASK, &events);
-    m_connection.flush();
+        m_pending.stop();
 }
 
 void StackingGuard::handle(const xcb_generic_event_t *event)
 {
-    if (m_window == XCB_WINDOW_NONE)
+    if (m_window == XCB_WINDOW_NONE || m_pending.isActive())
         return;
-    if (eventType(event) == XCB_VISIBILITY_NOTIFY) {
-        const auto *visibility = eventAs<xcb_visibility_notify_event_t>(event);
-        if (visibility->window == m_window && visibility->state != XCB_VISIBILITY_UNOBSCURED)
-            consider();
-    } else if (eventType(event) == XCB_PROPERTY_NOTIFY) {
-        // Under a compositor no window is ever obscured: there the window manager's list tells.
-        const xcb_atom_t stacking = m_connection.atom("_NET_CLIENT_LIST_STACKING");
-        if (eventAs<xcb_property_notify_event_t>(event)->atom == stacking)
-            consider();
+    if (eventType(event) == XCB_MAP_NOTIFY) {
+        if (eventAs<xcb_map_notify_event_t>(event)->window != m_window)
+            considerSoon();
+    } else if (eventType(event) == XCB_CONFIGURE_NOTIFY) {
+        if (eventAs<xcb_configure_notify_event_t>(event)->window != m_window)
+            considerSoon();
     }
 }
 
-void StackingGuard::consider()
+void StackingGuard::considerSoon()
 {
     if (m_loop.now() - m_lastRise > truce)
         m_risesInRow = 0;
-    if (m_risesInRow >= mostRisesInRow || m_pending.isActive())
-        return;
-    m_pending.startOnce(settleDelay, [this] {
+    const bool isQuarrel = m_risesInRow >= mostRisesInRow;
+    m_pending.startOnce(isQuarrel ? RunLoop::Duration(truce) : settleDelay, [this] {
         if (!shouldRise())
             return;
         ++m_risesInRow;

@@ -21,12 +21,12 @@ class StackingGuard : public QObject
 public:
     StackingGuard(X11Connection &connection, RunLoop &loop);
 
-    // None while there is no window. Selects the events of it that the keyboard's loan needs too.
+    // None while there is no window.
     void setWindow(xcb_window_t window);
 
 private:
     void handle(const xcb_generic_event_t *event);
-    void consider();
+    void considerSoon();
     bool shouldRise();
     QList<xcb_window_t> windowsAbove();
     std::optional<QRect> viewableArea(xcb_window_t window);
