@@ -11,18 +11,22 @@ class ClipKeepingTest : public QObject
 private Q_SLOTS:
     void the_history_survives_a_restart();
     void an_unreadable_history_starts_empty_and_is_kept_aside();
-    void the_last_copy_outlives_its_program();
-    void a_copy_outlives_a_program_that_quits_at_once();
-    void another_content_does_not_come_back_data();
-    void another_content_does_not_come_back();
-    void a_resting_clipboard_arms_no_timer();
+    void removed_clips_return_to_their_places();
+    void a_deletion_becomes_final();
+    void a_clip_that_was_copied_again_is_not_there_twice();
+    void a_deletion_that_was_not_saved_keeps_its_picture();
 };
 
 void ClipKeepingTest::the_history_survives_a_restart()
 {
     ClipRig rig;
     rig.copyText("a");
-    rig.copyImage(plainImage({9, 9}, Qt::red));
+    rig.copyImage(plainImage({9, 9}));
+    rig.manager->togglePin(rig.item(1).id);
+    QCOMPARE(rig.item(1).pinnedAt, std::optional(rig.loop.wallTime()));
+    rig.manager->togglePin(rig.item(0).id);
+    rig.manager->togglePin(rig.item(0).id);
+    QCOMPARE(rig.item(0).pinnedAt, std::nullopt);
     rig.manager->togglePause();
     const QList<ClipItem> before = rig.manager->items();
 
@@ -30,105 +34,101 @@ void ClipKeepingTest::the_history_survives_a_restart()
 
     QCOMPARE(rig.manager->items(), before);
     QVERIFY(!rig.manager->isPaused());
-    rig.copyText("a");
-    QCOMPARE(rig.copied(), QStringList({"a", u"9×9"_qs}));
-    rig.manager->use(rig.item(1).id, false);
-    QVERIFY(!rig.pasteboard.bytes("image/png").isEmpty());
 }
 
 void ClipKeepingTest::an_unreadable_history_starts_empty_and_is_kept_aside()
 {
     ClipRig rig;
-    rig.copyText("a");
-    rig.store.flushNow();
+    rig.manager.reset();
     QFile file(rig.store.dir().filePath("clipboard.json"));
-    QVERIFY(file.open(QFile::ReadWrite));
-    const QByteArray broken = file.readAll().replace("\"text\"", "\"test\"");
-    file.resize(0);
-    file.seek(0);
-    file.write(broken);
+    QVERIFY(file.open(QFile::WriteOnly) && file.write("[{}]"));
     file.close();
 
-    rig.manager.reset();
-    rig.start();
-    rig.manager->start();
+    rig.restart();
 
     QVERIFY(rig.manager->items().isEmpty());
     QCOMPARE(rig.store.dir().entryList({"clipboard.json.unreadable-*"}).size(), 1);
-    rig.copyText("b");
-    QCOMPARE(rig.copied(), QStringList({"b"}));
 }
 
-void ClipKeepingTest::the_last_copy_outlives_its_program()
+void ClipKeepingTest::removed_clips_return_to_their_places()
 {
     ClipRig rig;
+    rig.copyImage(plainImage({9, 9}));
+    rig.copyText("pinned");
+    rig.manager->togglePin(rig.item(0).id);
     rig.copyText("a");
-    QVERIFY(!rig.pasteboard.isOwn());
+    const QList<ClipItem> before = rig.manager->items();
 
-    rig.pasteboard.abandon();
+    rig.manager->remove(before[2].id);
+    QCOMPARE(rig.copied(), QStringList({"a", "pinned"}));
+    QVERIFY(rig.pictures().isEmpty());
+    rig.undo.undo();
+    QCOMPARE(rig.manager->items(), before);
 
-    QVERIFY(rig.pasteboard.isOwn());
-    QCOMPARE(rig.pasted(), "a");
-    QCOMPARE(rig.item(0).useCount, 0);
-    QCOMPARE(rig.manager->totalCount(), 1);
+    rig.manager->clearUnpinned();
+    QCOMPARE(rig.copied(), QStringList({"pinned"}));
+    QVERIFY(rig.pictures().isEmpty());
+    rig.copyText("new");
+    rig.undo.undo();
+
+    QCOMPARE(rig.copied(), QStringList({"new", "a", "pinned", u"9×9"_qs}));
+    QCOMPARE(rig.pictures(), QStringList({*before[2].imageFile}));
 }
 
-void ClipKeepingTest::a_copy_outlives_a_program_that_quits_at_once()
+void ClipKeepingTest::a_deletion_becomes_final()
 {
-    ClipRig rig;
-    rig.pasteboard.holdReads();
-    rig.pasteboard.copyText("a");
-    rig.pasteboard.abandon();
-    QVERIFY(!rig.pasteboard.isOwn());
-
-    rig.pasteboard.releaseReads();
-    rig.loop.settle();
-
-    QVERIFY(rig.pasteboard.isOwn());
-    QCOMPARE(rig.pasted(), "a");
-}
-
-void ClipKeepingTest::another_content_does_not_come_back_data()
-{
-    QTest::addColumn<QString>("what");
-    for (const char *what :
-         {"not wanted", "concealed", "concealed but kept", "not captured", "hung", "deleted"})
-        QTest::newRow(what) << what;
-}
-
-void ClipKeepingTest::another_content_does_not_come_back()
-{
-    QFETCH(QString, what);
-    ClipRig rig;
-    const QList<PasteboardData> secret{{"org.nspasteboard.ConcealedType", "1"}, {"text/plain", "hunter2"}};
-    rig.settings.setKeepAfterQuit(what != "not wanted");
-    rig.settings.setIgnoreConcealed(what != "concealed but kept");
-    rig.copyText("a");
-
-    if (what.startsWith("concealed"))
-        rig.pasteboard.copy(secret);
-    if (what == "not captured")
-        rig.copyData("text/html", "<b>");
-    if (what == "hung")
-        rig.pasteboard.copyAndHang({"text/plain"});
-    if (what == "deleted")
+    for (const QString by : {"time", "the next deletion", "a restart"}) {
+        ClipRig rig;
+        rig.copyText("a");
+        rig.copyImage(plainImage({9, 9}));
         rig.manager->remove(rig.item(0).id);
-    rig.loop.settle();
-    rig.pasteboard.abandon();
-    rig.loop.settle();
+        QCOMPARE(rig.asidePictures().size(), 1);
 
-    QVERIFY(!rig.pasteboard.isOwn());
+        if (by == "time")
+            rig.rest(5s);
+        if (by == "the next deletion")
+            rig.manager->remove(rig.item(0).id);
+        if (by == "a restart")
+            rig.restart();
+
+        QVERIFY2(rig.asidePictures().isEmpty(), qPrintable(by));
+        rig.undo.undo();
+        QCOMPARE(rig.copied(), QStringList({"a"}));
+    }
 }
 
-void ClipKeepingTest::a_resting_clipboard_arms_no_timer()
+void ClipKeepingTest::a_clip_that_was_copied_again_is_not_there_twice()
 {
     ClipRig rig;
-    rig.copyText("a");
+    rig.copyImage(plainImage({9, 9}));
+    rig.manager->togglePin(rig.item(0).id);
     rig.manager->remove(rig.item(0).id);
+    rig.copyImage(plainImage({9, 9}));
+    const QStringList pictures = rig.pictures();
 
-    rig.rest(1min);
+    rig.undo.undo();
 
-    QCOMPARE(rig.loop.armedTimers(), 0);
+    QCOMPARE(rig.manager->totalCount(), 1);
+    QVERIFY(rig.item(0).pinned);
+    QCOMPARE(rig.pictures(), pictures);
+    QVERIFY(rig.asidePictures().isEmpty());
+}
+
+void ClipKeepingTest::a_deletion_that_was_not_saved_keeps_its_picture()
+{
+    ClipRig rig;
+    rig.copyImage(plainImage({9, 9}));
+    rig.store.flushNow();
+    const QString file = rig.store.dir().filePath("clipboard.json");
+    const QString killed = rig.data.filePath("killed.json");
+    QVERIFY(QFile::copy(file, killed));
+    rig.manager->remove(rig.item(0).id);
+    rig.store.flushNow();
+    QVERIFY(QFile::remove(file) && QFile::copy(killed, file));
+
+    rig.restart();
+
+    QCOMPARE(rig.pictures(), QStringList({*rig.item(0).imageFile}));
 }
 
 QTEST_MAIN(ClipKeepingTest)

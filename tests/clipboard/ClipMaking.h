@@ -18,27 +18,21 @@ inline ClipItem textClip(const QString &text, const QDateTime &date = noon)
     item.kind = ClipItem::classify(text);
     item.text = text;
     item.sourceApp = QStringLiteral("Editor");
-    item.sourceBundleID = QStringLiteral("editor");
     item.date = date;
     item.fingerprint = sha256Hex(text);
     return item;
 }
 
-inline ClipItem clipOfKind(ClipKind kind, const QString &text = {})
+inline ClipItem clipOfKind(ClipKind kind, const QString &text)
 {
     ClipItem item = textClip(text);
     item.kind = kind;
+    if (kind == ClipKind::Files)
+        item.filePaths = text.split(u'\n');
     return item;
 }
 
-inline ClipItem filesClip(const QStringList &paths)
-{
-    ClipItem item = clipOfKind(ClipKind::Files, paths.join(u'\n'));
-    item.filePaths = paths;
-    return item;
-}
-
-inline QImage plainImage(QSize size, QColor color)
+inline QImage plainImage(QSize size, QColor color = Qt::red)
 {
     QImage image(size, QImage::Format_RGB32);
     image.fill(color);

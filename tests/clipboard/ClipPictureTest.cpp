@@ -1,7 +1,9 @@
 #include "clipboard/ClipPicture.h"
+#include "clipboard/ClipFolder.h"
 #include "clipboard/ClipMaking.h"
 
 #include <QColorSpace>
+#include <QTemporaryDir>
 #include <QtTest>
 
 using namespace velm;
@@ -11,72 +13,30 @@ class ClipPictureTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void equal_pixels_make_equal_bytes_data();
     void equal_pixels_make_equal_bytes();
     void transparency_is_kept();
-    void other_formats_are_read_data();
-    void other_formats_are_read();
-    void what_is_no_whole_picture_is_refused_data();
     void what_is_no_whole_picture_is_refused();
+    void a_stored_picture_is_only_for_the_user();
+    void names_that_lead_out_of_the_folder_are_refused();
+
+private:
+    const QImage m_image = plainImage({40, 30});
+    const QByteArray m_png = encoded(m_image);
 };
-
-namespace
-{
-
-QImage redPicture() { return plainImage({40, 30}, Qt::red); }
-
-// A PNG whose header says another size than its content has.
-QByteArray lyingPng(quint32 width, quint32 height)
-{
-    QByteArray png = encoded(redPicture());
-    qToBigEndian(width, png.data() + 16);
-    qToBigEndian(height, png.data() + 20);
-    static const auto crcTable = [] {
-        std::array<quint32, 256> table{};
-        for (quint32 n = 0; n < 256; ++n) {
-            table[n] = n;
-            for (int k = 0; k < 8; ++k)
-                table[n] = table[n] & 1 ? 0xedb88320u ^ (table[n] >> 1) : table[n] >> 1;
-        }
-        return table;
-    }();
-    quint32 crc = 0xffffffffu;
-    for (int i = 12; i < 29; ++i)
-        crc = crcTable[(crc ^ static_cast<uchar>(png.at(i))) & 0xff] ^ (crc >> 8);
-    qToBigEndian(crc ^ 0xffffffffu, png.data() + 29);
-    return png;
-}
-
-}
-
-void ClipPictureTest::equal_pixels_make_equal_bytes_data()
-{
-    QTest::addColumn<QByteArray>("bytes");
-    const QImage image = redPicture();
-    QImage described = image;
-    described.setText("Software", "some program");
-    described.setDotsPerMeterX(11811);
-    described.setDotsPerMeterY(11811);
-    QImage profiled = image;
-    profiled.setColorSpace(QColorSpace::SRgb);
-    QTest::newRow("the same") << encoded(image);
-    QTest::newRow("with alpha") << encoded(image.convertToFormat(QImage::Format_ARGB32));
-    QTest::newRow("palette") << encoded(image.convertToFormat(QImage::Format_Indexed8));
-    QTest::newRow("sixteen bits") << encoded(image.convertToFormat(QImage::Format_RGBA64));
-    QTest::newRow("texts and resolution") << encoded(described);
-    QTest::newRow("colour profile") << encoded(profiled);
-    QTest::newRow("bitmap") << encoded(image, "BMP");
-}
 
 void ClipPictureTest::equal_pixels_make_equal_bytes()
 {
-    QFETCH(QByteArray, bytes);
+    QImage described = m_image;
+    described.setText("Software", "some program");
+    described.setDotsPerMeterX(11811);
+    described.setColorSpace(QColorSpace::SRgb);
 
-    const auto picture = makePicture(bytes);
-
-    QVERIFY(picture);
-    QCOMPARE(picture->size, QSize(40, 30));
-    QCOMPARE(*picture, *makePicture(encoded(redPicture())));
+    for (const QByteArray &bytes : {encoded(described), encoded(m_image, "BMP"),
+                                    encoded(m_image.convertToFormat(QImage::Format_ARGB32)),
+                                    encoded(m_image.convertToFormat(QImage::Format_Indexed8)),
+                                    encoded(m_image.convertToFormat(QImage::Format_RGBA64))})
+        QCOMPARE(makePicture(bytes), makePicture(m_png));
+    QCOMPARE(makePicture(m_png)->size, QSize(40, 30));
 }
 
 void ClipPictureTest::transparency_is_kept()
@@ -84,52 +44,53 @@ void ClipPictureTest::transparency_is_kept()
     QImage image(4, 4, QImage::Format_ARGB32);
     image.fill(QColor(255, 0, 0, 128));
 
-    const auto picture = makePicture(encoded(image));
-
-    QCOMPARE(QImage::fromData(picture->png).pixelColor(0, 0), QColor(255, 0, 0, 128));
-}
-
-void ClipPictureTest::other_formats_are_read_data()
-{
-    QTest::addColumn<QByteArray>("format");
-    for (const char *format : {"PNG", "BMP", "JPG", "PPM"})
-        QTest::newRow(format) << QByteArray(format);
-}
-
-void ClipPictureTest::other_formats_are_read()
-{
-    QFETCH(QByteArray, format);
-    const QByteArray bytes = encoded(redPicture(), format.constData());
-
-    QVERIFY(looksLikePicture(bytes));
-    QCOMPARE(QImage::fromData(makePicture(bytes)->png).size(), QSize(40, 30));
-}
-
-void ClipPictureTest::what_is_no_whole_picture_is_refused_data()
-{
-    QTest::addColumn<QByteArray>("bytes");
-    QTest::addColumn<bool>("isSeenAtOnce");
-    const QByteArray png = encoded(redPicture());
-    QByteArray damaged = png;
-    damaged[png.size() - 20] = static_cast<char>(~damaged[png.size() - 20]);
-    QTest::newRow("nothing") << QByteArray() << true;
-    QTest::newRow("text") << QByteArray("<html>") << true;
-    QTest::newRow("only the signature") << png.first(8) << true;
-    QTest::newRow("cut short") << png.chopped(12) << true;
-    QTest::newRow("a bomb") << lyingPng(60'000, 60'000) << true;
-    QTest::newRow("sides that overflow") << lyingPng(0x7fffffff, 0x7fffffff) << true;
-    QTest::newRow("no height") << lyingPng(40, 0) << true;
-    QTest::newRow("more than there is") << lyingPng(4000, 3000) << false;
-    QTest::newRow("damaged inside") << damaged << false;
+    QCOMPARE(QImage::fromData(makePicture(encoded(image))->png).pixelColor(0, 0), QColor(255, 0, 0, 128));
 }
 
 void ClipPictureTest::what_is_no_whole_picture_is_refused()
 {
-    QFETCH(QByteArray, bytes);
-    QFETCH(bool, isSeenAtOnce);
+    QByteArray bomb = m_png; // its header says 60000 × 60000, with the right checksum
+    qToBigEndian<quint32>(60'000, bomb.data() + 16);
+    qToBigEndian<quint32>(60'000, bomb.data() + 20);
+    qToBigEndian<quint32>(0x0fb0e215, bomb.data() + 29);
+    QByteArray damaged = m_png;
+    damaged[m_png.size() - 20] = static_cast<char>(~damaged[m_png.size() - 20]);
 
-    QCOMPARE(!looksLikePicture(bytes), isSeenAtOnce);
-    QVERIFY(!makePicture(bytes));
+    for (const QByteArray &bytes : {QByteArray(), QByteArray("<html>"), m_png.chopped(12), bomb})
+        QVERIFY(!looksLikePicture(bytes) && !makePicture(bytes));
+    QVERIFY(!makePicture(damaged));
+}
+
+void ClipPictureTest::a_stored_picture_is_only_for_the_user()
+{
+    const QTemporaryDir data;
+    const ClipFolder folder(QDir(data.path()));
+
+    QVERIFY(folder.write("A.png", m_png));
+    QVERIFY(!folder.write("A.png", "x"));
+
+    const auto others = QFile::ReadGroup | QFile::WriteGroup | QFile::ReadOther | QFile::WriteOther;
+    QVERIFY(!(QFile::permissions(folder.path("A.png")) & others));
+    QCOMPARE(folder.read("A.png"), m_png);
+}
+
+void ClipPictureTest::names_that_lead_out_of_the_folder_are_refused()
+{
+    const QTemporaryDir data;
+    const ClipFolder folder(QDir(data.filePath("Clips")));
+    QVERIFY(QDir(data.path()).mkpath("Clips/a"));
+    const QStringList files{"precious.png", "Clips/.hidden.png", "Clips/a/b.png"};
+    for (const QString &file : files)
+        QVERIFY(m_image.save(data.filePath(file)));
+
+    for (const QString name : {"", "..", "../precious.png", ".hidden.png", "a/b.png"}) {
+        QVERIFY(folder.read(name).isEmpty());
+        folder.remove(name);
+        folder.putAside(name);
+    }
+
+    for (const QString &file : files)
+        QVERIFY(QFile::exists(data.filePath(file)));
 }
 
 QTEST_MAIN(ClipPictureTest)

@@ -30,16 +30,13 @@ struct ClipRig : IslandRig, PrivateDataFolder {
     FakePasteKeys keys;
     std::unique_ptr<ClipboardManager> manager;
 
-    ClipRig()
-    {
-        start();
-        manager->start();
-    }
+    ClipRig() { start(); }
 
     void start()
     {
         manager = std::make_unique<ClipboardManager>(loop, store, settings, feedback, island, pasteboard,
                                                      front, keys, undo);
+        manager->start();
     }
 
     // The program ends in the ordinary way and is started anew.
@@ -48,7 +45,6 @@ struct ClipRig : IslandRig, PrivateDataFolder {
         store.flushNow();
         manager.reset();
         start();
-        manager->start();
     }
 
     void copyText(const QString &text)
@@ -76,10 +72,8 @@ struct ClipRig : IslandRig, PrivateDataFolder {
     }
     QString announced() const
     {
-        if (!island.activity())
-            return {};
-        const LiveActivity &activity = *island.activity();
-        return activity.leading + (activity.trailing ? u'|' + *activity.trailing : QString());
+        const LiveActivity activity = island.activity().value_or(LiveActivity());
+        return activity.leading + u'|' + activity.trailing.value_or(QString());
     }
 };
 

@@ -1,6 +1,7 @@
 #include "island/IslandGeometry.h"
 
-#include "island/IslandRig.h"
+#include "island/IslandOutline.h"
+#include "platform/fakes/FakeScreens.h"
 
 #include <QTest>
 
@@ -12,56 +13,105 @@ class IslandGeometryTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void each_mode_has_its_size_data();
-    void each_mode_has_its_size();
+    void the_notch_is_the_gap_between_the_areas_beside_it_data();
+    void the_notch_is_the_gap_between_the_areas_beside_it();
+    void the_island_lives_on_the_built_in_screen_data();
+    void the_island_lives_on_the_built_in_screen();
+    void each_mode_hangs_from_the_top_edge_in_its_size_data();
+    void each_mode_hangs_from_the_top_edge_in_its_size();
     void an_activity_is_as_wide_as_its_characters_data();
     void an_activity_is_as_wide_as_its_characters();
-    void the_hit_rectangle_hangs_from_the_top_edge_data();
-    void the_hit_rectangle_hangs_from_the_top_edge();
     void clicks_beside_the_panel_pass_through_data();
     void clicks_beside_the_panel_pass_through();
-    void the_closed_island_lets_all_clicks_pass();
-    void the_window_hangs_from_the_middle_of_its_screen_data();
-    void the_window_hangs_from_the_middle_of_its_screen();
-    void the_peek_shows_on_both_sides_of_the_camera();
-
-private:
-    static IslandGeometry geometry(IslandMode mode, const QSizeF &notch = QSizeF(190, 32))
-    {
-        return {.mode = mode, .metrics = {.screen = FakeScreens::laptop(), .notchSize = notch}};
-    }
-    static LiveActivity activity(const QString &leading, std::optional<QString> trailing = {})
-    {
-        return {.leading = leading, .trailing = std::move(trailing)};
-    }
+    void areas_on_the_desktop_hang_from_the_middle_of_the_screen();
+    void the_outline_is_the_body_that_is_drawn();
 };
 
-void IslandGeometryTest::each_mode_has_its_size_data()
+void IslandGeometryTest::the_notch_is_the_gap_between_the_areas_beside_it_data()
 {
-    QTest::addColumn<IslandMode>("mode");
+    QTest::addColumn<std::optional<HousingAreas>>("areas");
+    QTest::addColumn<int>("inset");
     QTest::addColumn<QSizeF>("notch");
-    QTest::addColumn<QSizeF>("size");
+    QTest::addColumn<bool>("isHardware");
 
-    QTest::newRow("idle") << IslandMode::Idle << QSizeF(190, 32) << QSizeF(190, 32);
-    QTest::newRow("idle, housing") << IslandMode::Idle << QSizeF(112, 33) << QSizeF(112, 33);
-    QTest::newRow("peek") << IslandMode::Peek << QSizeF(190, 32) << QSizeF(320, 68);
-    QTest::newRow("peek, housing") << IslandMode::Peek << QSizeF(112, 33) << QSizeF(242, 69);
-    QTest::newRow("catching") << IslandMode::Catching << QSizeF(112, 33) << QSizeF(360, 132);
-    QTest::newRow("expanded") << IslandMode::Expanded << QSizeF(112, 33) << QSizeF(660, 430);
+    const auto areas = [](const QSizeF &left, const QSizeF &right) {
+        return std::optional(HousingAreas{left, right});
+    };
+    const std::optional<HousingAreas> none;
+    QTest::newRow("a housing") << areas({700, 32}, {700, 33}) << 33 << QSizeF(112, 33) << true;
+    QTest::newRow("gap of 50") << areas({731, 32}, {731, 32}) << 38 << QSizeF(190, 38) << false;
+    QTest::newRow("gap of 60") << areas({726, 32}, {726, 32}) << 0 << QSizeF(190, 32) << false;
+    QTest::newRow("gap of 61") << areas({726, 32}, {725, 32}) << 0 << QSizeF(61, 32) << true;
+    QTest::newRow("areas 10 high") << areas({700, 10}, {700, 9}) << 0 << QSizeF(190, 32) << false;
+    QTest::newRow("areas 11 high") << areas({700, 11}, {700, 9}) << 0 << QSizeF(112, 11) << true;
+    QTest::newRow("none, inset 24") << none << 24 << QSizeF(190, 32) << false;
 }
 
-void IslandGeometryTest::each_mode_has_its_size()
+void IslandGeometryTest::the_notch_is_the_gap_between_the_areas_beside_it()
+{
+    QFETCH(std::optional<HousingAreas>, areas);
+    QFETCH(int, inset);
+    ScreenInfo screen = FakeScreens::laptop();
+    screen.geometry.setWidth(1512);
+    screen.topInset = inset;
+    screen.housing = areas;
+
+    const NotchMetrics metrics = NotchMetrics::measure(screen);
+
+    QTEST(metrics.notchSize, "notch");
+    QTEST(metrics.isHardware, "isHardware");
+}
+
+void IslandGeometryTest::the_island_lives_on_the_built_in_screen_data()
+{
+    QTest::addColumn<QString>("connectors");
+    QTest::addColumn<int>("primary");
+    QTest::addColumn<QString>("chosen");
+
+    QTest::newRow("built-in before primary") << u"HDMI-1 eDP-1"_qs << 0 << u"eDP-1"_qs;
+    QTest::newRow("LVDS") << u"VGA-1 LVDS1"_qs << 0 << u"LVDS1"_qs;
+    QTest::newRow("the first of two") << u"DP-1 eDP-2 DSI-1"_qs << 2 << u"eDP-2"_qs;
+    QTest::newRow("else the primary") << u"DP-1 HDMI-eDP"_qs << 1 << u"HDMI-eDP"_qs;
+    QTest::newRow("else the first") << u"DP-1 DP-2"_qs << -1 << u"DP-1"_qs;
+    QTest::newRow("no screen") << QString() << -1 << QString();
+}
+
+void IslandGeometryTest::the_island_lives_on_the_built_in_screen()
+{
+    QFETCH(QString, connectors);
+    QFETCH(int, primary);
+    QList<ScreenInfo> screens;
+    for (const QString &connector : connectors.split(u' ', Qt::SkipEmptyParts)) {
+        ScreenInfo screen = FakeScreens::external();
+        screen.connector = connector;
+        screen.isPrimary = screens.size() == primary;
+        screens.append(screen);
+    }
+
+    QTEST(NotchMetrics::preferredScreen(screens).connector, "chosen");
+}
+
+void IslandGeometryTest::each_mode_hangs_from_the_top_edge_in_its_size_data()
+{
+    QTest::addColumn<IslandMode>("mode");
+    QTest::addColumn<QSizeF>("size");
+    QTest::addColumn<QRectF>("hitRect");
+
+    QTest::newRow("idle") << IslandMode::Idle << QSizeF(112, 33) << QRectF(338, 455, 124, 45);
+    QTest::newRow("peek") << IslandMode::Peek << QSizeF(242, 69) << QRectF(273, 419, 254, 81);
+    QTest::newRow("catching") << IslandMode::Catching << QSizeF(360, 132) << QRectF(214, 356, 372, 144);
+    QTest::newRow("expanded") << IslandMode::Expanded << QSizeF(660, 430) << QRectF(70, 70, 660, 430);
+}
+
+void IslandGeometryTest::each_mode_hangs_from_the_top_edge_in_its_size()
 {
     QFETCH(IslandMode, mode);
-    QFETCH(QSizeF, notch);
-
-    IslandGeometry island = geometry(mode, notch);
+    IslandGeometry island{.mode = mode, .metrics = {.notchSize = {112, 33}}};
+    if (mode != IslandMode::Idle)
+        island.activity = LiveActivity{.leading = u"only the resting island grows for it"_qs};
 
     QTEST(island.islandSize(), "size");
-    if (mode == IslandMode::Idle)
-        return;
-    island.activity = activity(QStringLiteral("only the resting island grows for it"));
-    QTEST(island.islandSize(), "size");
+    QTEST(island.hitRect(), "hitRect");
 }
 
 void IslandGeometryTest::an_activity_is_as_wide_as_its_characters_data()
@@ -74,11 +124,9 @@ void IslandGeometryTest::an_activity_is_as_wide_as_its_characters_data()
     const auto letters = [](int count) { return QString(count, u'a'); };
     const QString none;
     QTest::newRow("10 on 200") << 200.0 << letters(10) << none << QSizeF(290, 70);
-    QTest::newRow("nothing") << 100.0 << QString(u""_qs) << none << QSizeF(200, 70);
     QTest::newRow("both texts") << 100.0 << letters(10) << letters(6) << QSizeF(304, 70);
     QTest::newRow("35 fit") << 100.0 << letters(35) << none << QSizeF(427.5, 70);
     QTest::newRow("36 are cut") << 100.0 << letters(36) << none << QSizeF(430, 70);
-    QTest::newRow("a novel") << 100.0 << letters(100000) << none << QSizeF(430, 70);
     QTest::newRow("a wide notch") << 380.0 << letters(100) << none << QSizeF(470, 70);
     QTest::newRow("one flag is one character") << 100.0 << u"🇩🇪"_qs << none << QSizeF(206.5, 70);
     QTest::newRow("an accent is no character") << 100.0 << u"e\u0301"_qs << none << QSizeF(206.5, 70);
@@ -89,28 +137,11 @@ void IslandGeometryTest::an_activity_is_as_wide_as_its_characters()
     QFETCH(double, notchWidth);
     QFETCH(QString, leading);
     QFETCH(QString, trailing);
-    IslandGeometry island = geometry(IslandMode::Idle, QSizeF(notchWidth, 32));
-    island.activity = activity(leading, trailing.isNull() ? std::nullopt : std::optional(trailing));
+
+    const IslandGeometry island{.metrics = {.notchSize = {notchWidth, 32}},
+                                .activity = LiveActivity{.leading = leading, .trailing = trailing}};
 
     QTEST(island.islandSize(), "size");
-}
-
-void IslandGeometryTest::the_hit_rectangle_hangs_from_the_top_edge_data()
-{
-    QTest::addColumn<IslandMode>("mode");
-    QTest::addColumn<QRectF>("hitRect");
-
-    QTest::newRow("idle") << IslandMode::Idle << QRectF(299, 456, 202, 44);
-    QTest::newRow("peek") << IslandMode::Peek << QRectF(234, 420, 332, 80);
-    QTest::newRow("catching") << IslandMode::Catching << QRectF(214, 356, 372, 144);
-    QTest::newRow("expanded") << IslandMode::Expanded << QRectF(70, 70, 660, 430);
-}
-
-void IslandGeometryTest::the_hit_rectangle_hangs_from_the_top_edge()
-{
-    QFETCH(IslandMode, mode);
-
-    QTEST(geometry(mode).hitRect(), "hitRect");
 }
 
 void IslandGeometryTest::clicks_beside_the_panel_pass_through_data()
@@ -119,67 +150,50 @@ void IslandGeometryTest::clicks_beside_the_panel_pass_through_data()
     QTest::addColumn<QPoint>("point"); // from the window's top left
     QTest::addColumn<bool>("isTaken");
 
-    const auto expanded = IslandMode::Expanded;
-    QTest::newRow("top row") << expanded << QPoint(400, 0) << true;
-    QTest::newRow("bottom row") << expanded << QPoint(400, 429) << true;
-    QTest::newRow("first row below") << expanded << QPoint(400, 430) << false;
-    QTest::newRow("20 below") << expanded << QPoint(400, 450) << false;
-    QTest::newRow("bottom of the window") << expanded << QPoint(400, 499) << false;
-    QTest::newRow("left column") << expanded << QPoint(70, 200) << true;
-    QTest::newRow("beside it, left") << expanded << QPoint(69, 200) << false;
-    QTest::newRow("right column") << expanded << QPoint(729, 200) << true;
-    QTest::newRow("beside it, right") << expanded << QPoint(730, 200) << false;
-    QTest::newRow("zone, top") << IslandMode::Catching << QPoint(400, 0) << true;
+    QTest::newRow("top row") << IslandMode::Expanded << QPoint(400, 0) << true;
+    QTest::newRow("bottom row") << IslandMode::Expanded << QPoint(400, 429) << true;
+    QTest::newRow("first row below") << IslandMode::Expanded << QPoint(400, 430) << false;
+    QTest::newRow("left column") << IslandMode::Expanded << QPoint(70, 200) << true;
+    QTest::newRow("beside it, left") << IslandMode::Expanded << QPoint(69, 200) << false;
     QTest::newRow("zone, padded bottom") << IslandMode::Catching << QPoint(400, 143) << true;
     QTest::newRow("below the zone") << IslandMode::Catching << QPoint(400, 144) << false;
+    QTest::newRow("peek") << IslandMode::Peek << QPoint(400, 10) << false;
+    QTest::newRow("at rest") << IslandMode::Idle << QPoint(400, 10) << false;
 }
 
 void IslandGeometryTest::clicks_beside_the_panel_pass_through()
 {
     QFETCH(IslandMode, mode);
     QFETCH(QPoint, point);
+    const IslandGeometry island{.mode = mode, .metrics = {.notchSize = {190, 32}}};
 
-    QTEST(geometry(mode).inputRegion().contains(point), "isTaken");
+    QTEST(island.inputRegion().contains(point), "isTaken");
 }
 
-void IslandGeometryTest::the_closed_island_lets_all_clicks_pass()
+void IslandGeometryTest::areas_on_the_desktop_hang_from_the_middle_of_the_screen()
 {
-    for (const IslandMode mode : {IslandMode::Idle, IslandMode::Peek}) {
-        IslandGeometry island = geometry(mode);
-        island.activity = activity(QStringLiteral("Copied"));
+    const NotchMetrics metrics{.screen = FakeScreens::external(), .notchSize = {190, 32}};
+    const IslandGeometry island{.mode = IslandMode::Expanded, .metrics = metrics};
 
-        QVERIFY(island.ignoresMouse());
-        QVERIFY(island.inputRegion().isEmpty());
-    }
+    QCOMPARE(island.windowFrame(), QRectF(1840, 0, 800, 500));
+    QCOMPARE(island.hoverTrigger(), QRectF(2131, 0, 218, 40));
+    QCOMPARE(island.pressArea(), QRectF(1904, -6, 672, 442));
+    QVERIFY(covers({0, 0, 10, 10}, {0, 9}));
+    QVERIFY(!covers({0, 0, 10, 10}, {0, 10}));
 }
 
-void IslandGeometryTest::the_window_hangs_from_the_middle_of_its_screen_data()
+void IslandGeometryTest::the_outline_is_the_body_that_is_drawn()
 {
-    QTest::addColumn<QRect>("screen");
-    QTest::addColumn<QRectF>("frame");
+    const QRegion region = IslandOutline{.body = {660, 430}, .corner = 28, .shoulder = 12}.region();
 
-    QTest::newRow("laptop") << QRect(0, 0, 1280, 800) << QRectF(240, 0, 800, 500);
-    QTest::newRow("right of another") << QRect(1280, -200, 1920, 1080) << QRectF(1840, -200, 800, 500);
-    QTest::newRow("narrower than the window") << QRect(0, 0, 600, 400) << QRectF(-100, 0, 800, 500);
-    QTest::newRow("odd width") << QRect(0, 0, 1367, 768) << QRectF(283.5, 0, 800, 500);
-}
-
-void IslandGeometryTest::the_window_hangs_from_the_middle_of_its_screen()
-{
-    QFETCH(QRect, screen);
-    IslandGeometry island = geometry(IslandMode::Idle);
-    island.metrics.screen.geometry = screen;
-
-    QTEST(island.windowFrame(), "frame");
-}
-
-void IslandGeometryTest::the_peek_shows_on_both_sides_of_the_camera()
-{
-    const QSizeF notch(112, 33);
-
-    const double beyond = geometry(IslandMode::Peek, notch).islandSize().width() - notch.width();
-
-    QCOMPARE(beyond / 2, 65.0);
+    QVERIFY(region.contains(QPoint(66, 0)));    // shoulder at the edge
+    QVERIFY(!region.contains(QPoint(62, 10)));  // hollow of the shoulder
+    QVERIFY(region.contains(QPoint(90, 410)));  // inside the corner
+    QVERIFY(!region.contains(QPoint(72, 428))); // cut corner
+    QRegion mirrored;
+    for (const QRect &rect : region)
+        mirrored += QRect(799 - rect.right(), rect.y(), rect.width(), rect.height());
+    QCOMPARE(mirrored, region);
 }
 
 }
