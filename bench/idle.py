@@ -49,14 +49,14 @@ def _start_with_clips(subject):
 
 def _watch(subjects, seconds):
     """(subject, wakeups, seconds of CPU) over that time."""
-    def look(subject):
-        pids = subject.pids()
-        return measure.total(measure.wakeups, pids), measure.total(measure.cpu, pids)
-    before = [look(subject) for subject in subjects]
-    time.sleep(seconds)
-    after = [look(subject) for subject in subjects]
-    return [(subject, now[0] - then[0], now[1] - then[1])
-            for subject, then, now in zip(subjects, before, after)]
+    worked = [subject.cpu() for subject in subjects]
+    woken = [measure.Wakeups(subject.pids()) for subject in subjects]
+    for _ in range(seconds):
+        time.sleep(1)
+        for subject, count in zip(subjects, woken):
+            count.look(subject.pids())
+    return [(subject, count.total, subject.cpu() - before)
+            for subject, count, before in zip(subjects, woken, worked)]
 
 
 def _megabytes(subject):

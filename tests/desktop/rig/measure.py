@@ -1,6 +1,5 @@
 """What the kernel says about a program: time, wakeups, memory."""
 
-import os
 import pathlib
 import time
 
@@ -17,10 +16,35 @@ def children_of(pid):
     return found
 
 
-def wakeups(pid):
-    """How often the threads of a program have been woken since they began."""
-    return sum(_field(task / "status", "voluntary_ctxt_switches")
-               for task in pathlib.Path(f"/proc/{pid}/task").glob("*"))
+class Wakeups:
+    """How often the threads of some programs are woken from now on.
+
+    Looks are to be a second apart or so: what a thread did after the last look at it goes with it when it ends,
+    but for the one wakeup that ending takes.
+    """
+
+    def __init__(self, pids):
+        self._counts = _switches(pids)
+        self.total = 0
+
+    def look(self, pids):
+        now = _switches(pids)
+        for thread, count in now.items():
+            self.total += count - self._counts.get(thread, 0)
+        self.total += len(self._counts.keys() - now.keys())
+        self._counts = now
+
+
+def _switches(pids):
+    """Voluntary context switches so far, by thread."""
+    counts = {}
+    for pid in pids:
+        for task in pathlib.Path(f"/proc/{pid}/task").glob("*"):
+            try:
+                counts[task] = _field(task / "status", "voluntary_ctxt_switches")
+            except (OSError, KeyError):
+                continue  # it has just ended
+    return counts
 
 
 def cpu(pid):
@@ -39,12 +63,6 @@ def peak_rss(pid):
     return _field(pathlib.Path(f"/proc/{pid}/status"), "VmHWM") * 1024
 
 
-def reset_peak(pid):
-    """Begins the peak anew at what is resident now."""
-    with open(f"/proc/{pid}/clear_refs", "w", encoding="ascii") as file:
-        file.write("5")
-
-
 def is_stopped(pid):
     return pathlib.Path(f"/proc/{pid}/stat").read_text().rpartition(")")[2].split()[0] == "T"
 
@@ -61,13 +79,7 @@ def total(figure, pids):
 
 
 def _field(path, name):
-    try:
-        text = path.read_text()
-    except FileNotFoundError:
-        if os.path.exists(path.parent.parent):
-            return 0  # a thread that ended while we looked
-        raise
-    for line in text.splitlines():
+    for line in path.read_text().splitlines():
         key, _, value = line.partition(":")
         if key == name:
             return int(value.split()[0])

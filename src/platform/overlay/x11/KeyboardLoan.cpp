@@ -43,7 +43,7 @@ void KeyboardLoan::giveBack()
     if (focusedWindow() != m_borrower)
         return;
     // The window manager may think that the lender has it still, and do nothing: so the server is told too.
-    xcb_set_input_focus(m_connection.xcb(), XCB_INPUT_FOCUS_PARENT, m_lender.focus, XCB_CURRENT_TIME);
+    xcb_set_input_focus(m_connection.xcb(), XCB_INPUT_FOCUS_PARENT, heir(), XCB_CURRENT_TIME);
     if (m_lender.active != XCB_WINDOW_NONE)
         activate(m_lender.active);
     m_connection.flush();
@@ -73,6 +73,15 @@ void KeyboardLoan::settleLoss()
         return;
     m_isOut = false;
     Q_EMIT lost();
+}
+
+// A lender that has closed meanwhile must not leave the keyboard with the borrower.
+xcb_window_t KeyboardLoan::heir()
+{
+    const auto state = m_connection.reply(xcb_get_window_attributes_reply,
+                                          xcb_get_window_attributes(m_connection.xcb(), m_lender.focus));
+    const bool canHaveIt = state && state->map_state == XCB_MAP_STATE_VIEWABLE;
+    return canHaveIt ? m_lender.focus : xcb_window_t{XCB_INPUT_FOCUS_POINTER_ROOT};
 }
 
 xcb_window_t KeyboardLoan::activeWindow()

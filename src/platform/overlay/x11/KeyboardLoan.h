@@ -36,6 +36,7 @@ private:
 
     void handle(const xcb_generic_event_t *event);
     void settleLoss();
+    xcb_window_t heir();
     xcb_window_t activeWindow();
     xcb_window_t focusedWindow();
     void activate(xcb_window_t window);

@@ -22,9 +22,9 @@ QtClipboardShield::QtClipboardShield(X11Connection &connection, quint32 toolkitB
 
 QtClipboardShield::~QtClipboardShield() { qApp->removeNativeEventFilter(this); }
 
-void QtClipboardShield::trustContent()
+void QtClipboardShield::trust(xcb_timestamp_t time)
 {
-    m_isTrusted = true;
+    m_trusted = time;
     letThrough();
 }
 
@@ -37,7 +37,7 @@ bool QtClipboardShield::nativeEventFilter(const QByteArray &kind, void *message,
     auto *event = static_cast<xcb_xfixes_selection_notify_event_t *>(message);
     if (event->response_type != m_ownerEvent || event->selection != m_clipboard)
         return false; // one that was sent, by us, has another bit set
-    if ((event->owner & m_baseMask) == m_toolkitBase) {
+    if ((event->owner & m_baseMask) == m_toolkitBase || mayPass(*event)) {
         m_withheld.reset();
         return false;
     }
@@ -46,11 +46,16 @@ bool QtClipboardShield::nativeEventFilter(const QByteArray &kind, void *message,
     return false;
 }
 
+bool QtClipboardShield::mayPass(const xcb_xfixes_selection_notify_event_t &notice) const
+{
+    return QGuiApplication::focusWindow() && notice.selection_timestamp == m_trusted;
+}
+
 void QtClipboardShield::letThrough()
 {
-    QWindow *window = QGuiApplication::focusWindow();
-    if (!window || !m_withheld || !m_isTrusted)
+    if (!m_withheld || !mayPass(*m_withheld))
         return;
+    const QWindow *window = QGuiApplication::focusWindow();
     // Without an event mask it goes to the window's maker, which is the toolkit.
     xcb_send_event(m_connection.xcb(), 0, static_cast<xcb_window_t>(window->winId()), XCB_EVENT_MASK_NO_EVENT,
                    reinterpret_cast<const char *>(&*m_withheld));

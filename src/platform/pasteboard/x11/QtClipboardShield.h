@@ -23,13 +23,14 @@ public:
     QtClipboardShield(X11Connection &connection, quint32 toolkitBase);
     ~QtClipboardShield() override;
 
-    // Another program has copied, and then: it was read without trouble.
-    void doubtContent() { m_isTrusted = false; }
-    void trustContent();
+    // What another program has copied at this time of the server's was read without trouble. The toolkit's
+    // own notice of it may come before or after.
+    void trust(xcb_timestamp_t time);
 
     bool nativeEventFilter(const QByteArray &kind, void *message, qintptr *result) override;
 
 private:
+    bool mayPass(const xcb_xfixes_selection_notify_event_t &notice) const;
     void letThrough();
 
     X11Connection &m_connection;
@@ -38,7 +39,7 @@ private:
     quint8 m_ownerEvent;
     xcb_atom_t m_clipboard;
     std::optional<xcb_xfixes_selection_notify_event_t> m_withheld;
-    bool m_isTrusted = false;
+    xcb_timestamp_t m_trusted = XCB_CURRENT_TIME;
 };
 
 }

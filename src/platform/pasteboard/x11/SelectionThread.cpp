@@ -59,7 +59,7 @@ void SelectionThread::handle(const OwnerChange &change)
     if (!content)
         return;
     content->change = number;
-    m_listener.read(std::move(*content));
+    m_listener.read(std::move(*content), change.time);
 }
 
 bool SelectionThread::isOwn(xcb_window_t window) const

@@ -15,7 +15,7 @@ public:
     // All are called on the reading thread.
     struct Listener {
         std::function<void(quint64 change)> changed;
-        std::function<void(PasteboardContent content)> read;
+        std::function<void(PasteboardContent content, xcb_timestamp_t copied)> read;
         std::function<void(quint64 change)> abandoned;
     };
 

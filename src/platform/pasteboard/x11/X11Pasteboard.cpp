@@ -36,16 +36,11 @@ void X11Pasteboard::watch(NextType next)
         QMetaObject::invokeMethod(this, std::move(task), Qt::QueuedConnection);
     };
     SelectionThread::Listener listener;
-    listener.changed = [this, later](quint64 change) {
-        later([this, change] {
-            m_shield->doubtContent();
-            Q_EMIT changed(change);
-        });
-    };
-    listener.read = [this, later](PasteboardContent content) {
-        later([this, content = std::move(content)] {
-            if (content.outcome == PasteboardOutcome::Read && content.change == m_counter.count())
-                m_shield->trustContent();
+    listener.changed = [this, later](quint64 change) { later([this, change] { Q_EMIT changed(change); }); };
+    listener.read = [this, later](PasteboardContent content, xcb_timestamp_t copied) {
+        later([this, content = std::move(content), copied] {
+            if (content.outcome == PasteboardOutcome::Read)
+                m_shield->trust(copied);
             Q_EMIT read(content);
         });
     };
@@ -67,31 +62,25 @@ void X11Pasteboard::write(const PasteboardOffer &content)
         m_counter.expectNone();
     }
     m_counter.step();
-    if (content.empty())
-        clear();
-    else
-        offer(content, 0);
-}
-
-void X11Pasteboard::clear()
-{
-    if (owner() == XCB_WINDOW_NONE)
+    if (content.empty() && owner() == XCB_WINDOW_NONE)
         return;
+    // Before the claim: the notice may be there before it returns.
     if (m_reading)
         m_counter.expectNotice();
-    QGuiApplication::clipboard()->clear();
+    claim(content, 0);
 }
 
-void X11Pasteboard::offer(const PasteboardOffer &content, size_t attempt)
+void X11Pasteboard::claim(const PasteboardOffer &content, size_t attempt)
 {
-    // Before the claim: the notice may be there before it returns.
-    if (m_reading && attempt == 0)
-        m_counter.expectNotice();
-    QGuiApplication::clipboard()->setMimeData(new LazyMimeData(content));
-    if (isToolkits(owner()))
+    if (content.empty())
+        QGuiApplication::clipboard()->clear();
+    else
+        QGuiApplication::clipboard()->setMimeData(new LazyMimeData(content));
+    const xcb_window_t now = owner();
+    if (content.empty() ? now == XCB_WINDOW_NONE : isToolkits(now))
         return;
     if (attempt < std::size(retryDelays)) {
-        m_retry.startOnce(retryDelays[attempt], [this, content, attempt] { offer(content, attempt + 1); });
+        m_retry.startOnce(retryDelays[attempt], [this, content, attempt] { claim(content, attempt + 1); });
         return;
     }
     m_counter.expectNone();

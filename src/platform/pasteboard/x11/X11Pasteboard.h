@@ -29,8 +29,7 @@ public:
     void write(const PasteboardOffer &offer) override;
 
 private:
-    void clear();
-    void offer(const PasteboardOffer &offer, size_t attempt);
+    void claim(const PasteboardOffer &content, size_t attempt);
     xcb_window_t owner() const;
     bool isToolkits(xcb_window_t window) const;
     quint32 toolkitBase() const;

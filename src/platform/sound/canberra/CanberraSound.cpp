@@ -74,13 +74,16 @@ public:
         m_context = nullptr;
     }
 
-    bool begin()
+    bool isBusy()
     {
         const std::lock_guard lock(m_mutex);
-        if (m_underWay >= mostWaiting)
-            return false;
+        return m_underWay >= mostWaiting;
+    }
+
+    void begin()
+    {
+        const std::lock_guard lock(m_mutex);
         ++m_underWay;
-        return true;
     }
 
     void finish()
@@ -109,6 +112,7 @@ CanberraSound::CanberraSound(RunLoop &loop)
 
 CanberraSound::~CanberraSound()
 {
+    closeLine();
     // The thread of a queue that hangs ends with the process.
     if (!m_line->isFinishedWithin(farewell))
         static_cast<void>(m_queue.release());
@@ -117,19 +121,26 @@ CanberraSound::~CanberraSound()
 void CanberraSound::play(Sound sound)
 {
     const QString path = findFile(sound);
-    if (path.isEmpty() || !m_line->begin())
+    if (path.isEmpty() || m_line->isBusy())
         return;
+    m_line->begin();
     m_queue->enqueue([line = m_line, path = QFile::encodeName(path)] {
         line->play(path);
         line->finish();
     });
-    m_idle.startOnce(idleDelay, [this] {
-        if (!m_line->begin())
-            return;
-        m_queue->enqueue([line = m_line] {
-            line->close();
-            line->finish();
-        });
+    m_isOpen = true;
+    m_idle.startOnce(idleDelay, [this] { closeLine(); });
+}
+
+void CanberraSound::closeLine()
+{
+    if (!m_isOpen)
+        return;
+    m_isOpen = false;
+    m_line->begin();
+    m_queue->enqueue([line = m_line] {
+        line->close();
+        line->finish();
     });
 }
 

@@ -21,7 +21,10 @@ public:
 private:
     class Line;
 
+    void closeLine();
+
     LoopTimer m_idle;
+    bool m_isOpen = false;
     // Shared with the queue's work: a sound server that hangs must not keep the program from ending.
     std::shared_ptr<Line> m_line;
     std::unique_ptr<SerialQueue> m_queue;

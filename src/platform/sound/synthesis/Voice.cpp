@@ -44,7 +44,7 @@ void add(Samples &samples, const Breath &breath)
 
 void soften(Samples &samples)
 {
-    const auto ramp = [&samples](size_t i, double length) {
+    const auto ramp = [](size_t i, double length) {
         return std::min(1.0, static_cast<double>(i) / (length * sampleRate));
     };
     for (size_t i = 0; i < samples.size(); ++i)

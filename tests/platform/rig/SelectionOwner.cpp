@@ -1,4 +1,4 @@
-#include "platform/x11/SelectionOwner.h"
+#include "platform/rig/SelectionOwner.h"
 
 #include "platform/x11/XcbReply.h"
 
@@ -114,18 +114,8 @@ void SelectionOwner::answer(const xcb_selection_request_event_t &request)
 
 bool SelectionOwner::give(const xcb_selection_request_event_t &request, xcb_atom_t property)
 {
-    const auto put = [&](xcb_atom_t type, uint8_t format, uint32_t count, const void *data) {
-        xcb_change_property(m_xcb, XCB_PROP_MODE_REPLACE, request.requestor, property, type, format, count,
-                            data);
-    };
     if (request.target == atom("TARGETS")) {
-        QList<xcb_atom_t> targets{atom("TARGETS"), atom("TIMESTAMP"), atom("MULTIPLE"), atom("SAVE_TARGETS")};
-        for (const PasteboardData &data : m_content)
-            targets.append(atom(data.type.toLatin1()));
-        if (m_manners.rawTargets.isNull())
-            put(XCB_ATOM_ATOM, 32, targets.size(), targets.constData());
-        else
-            put(XCB_ATOM_ATOM, 8, m_manners.rawTargets.size(), m_manners.rawTargets.constData());
+        giveTargets(request.requestor, property);
         return true;
     }
     for (const PasteboardData &data : m_content) {
@@ -133,17 +123,38 @@ bool SelectionOwner::give(const xcb_selection_request_event_t &request, xcb_atom
             continue;
         if (data.bytes.size() <= m_manners.incrementAbove) {
             ++m_handedOver;
-            put(request.target, 8, data.bytes.size(), data.bytes.constData());
+            put(request.requestor, property, request.target, data.bytes);
             return true;
         }
         const quint32 events = XCB_EVENT_MASK_PROPERTY_CHANGE;
         xcb_change_window_attributes(m_xcb, request.requestor, XCB_CW_EVENT_MASK, &events);
         m_transfers.append({request.requestor, property, request.target, data.bytes});
         const auto announced = static_cast<quint32>(data.bytes.size() + m_manners.announcedMore);
-        put(atom("INCR"), 32, 1, &announced);
+        xcb_change_property(m_xcb, XCB_PROP_MODE_REPLACE, request.requestor, property, atom("INCR"), 32, 1,
+                            &announced);
         return true;
     }
     return false;
+}
+
+void SelectionOwner::giveTargets(xcb_window_t requestor, xcb_atom_t property)
+{
+    if (!m_manners.rawTargets.isNull()) {
+        put(requestor, property, XCB_ATOM_ATOM, m_manners.rawTargets);
+        return;
+    }
+    QList<xcb_atom_t> targets{atom("TARGETS"), atom("TIMESTAMP"), atom("MULTIPLE"), atom("SAVE_TARGETS")};
+    for (const PasteboardData &data : m_content)
+        targets.append(atom(data.type.toLatin1()));
+    xcb_change_property(m_xcb, XCB_PROP_MODE_REPLACE, requestor, property, XCB_ATOM_ATOM, 32,
+                        static_cast<uint32_t>(targets.size()), targets.constData());
+}
+
+void SelectionOwner::put(xcb_window_t requestor, xcb_atom_t property, xcb_atom_t type,
+                         const QByteArray &bytes)
+{
+    xcb_change_property(m_xcb, XCB_PROP_MODE_REPLACE, requestor, property, type, 8,
+                        static_cast<uint32_t>(bytes.size()), bytes.constData());
 }
 
 void SelectionOwner::sendIncrement(const xcb_property_notify_event_t &wanted)

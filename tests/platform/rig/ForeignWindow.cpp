@@ -1,4 +1,4 @@
-#include "platform/x11/ForeignWindow.h"
+#include "platform/rig/ForeignWindow.h"
 
 #include <xcb/shape.h>
 

@@ -1,11 +1,11 @@
 #include "platform/Platform.h"
 #include "platform/contracts/FrontContract.h"
 #include "platform/contracts/PointerContract.h"
+#include "platform/rig/ForeignWindow.h"
+#include "platform/rig/OtherProgram.h"
+#include "platform/rig/PrivateDisplay.h"
 #include "platform/runloop/LoopTimer.h"
 #include "platform/runloop/QtRunLoop.h"
-#include "platform/x11/ForeignWindow.h"
-#include "platform/x11/OtherProgram.h"
-#include "platform/x11/PrivateDisplay.h"
 
 #include <QGuiApplication>
 #include <QSignalSpy>
@@ -266,4 +266,4 @@ int main(int argc, char **argv)
     return (isChosen ? 0 : QTest::qExec(&pointer) + QTest::qExec(&front)) + QTest::qExec(&own, argc, argv);
 }
 
-#include "tst_x11_input.moc"
+#include "X11InputTest.moc"

@@ -57,6 +57,8 @@ private:
     void handle(const xcb_generic_event_t *event);
     void answer(const xcb_selection_request_event_t &request);
     bool give(const xcb_selection_request_event_t &request, xcb_atom_t property);
+    void giveTargets(xcb_window_t requestor, xcb_atom_t property);
+    void put(xcb_window_t requestor, xcb_atom_t property, xcb_atom_t type, const QByteArray &bytes);
     void sendIncrement(const xcb_property_notify_event_t &wanted);
     void claim();
     void doOnThread(std::function<void()> task);

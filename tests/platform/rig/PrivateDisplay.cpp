@@ -1,17 +1,13 @@
-#include "platform/x11/PrivateDisplay.h"
+#include "platform/rig/PrivateDisplay.h"
 
+#include "platform/rig/StartProgram.h"
 #include "platform/x11/XcbReply.h"
 
 #include <QtGlobal>
 
 #include <xcb/xcb.h>
 
-#include <sys/prctl.h>
-#include <sys/wait.h>
-#include <unistd.h>
-
 #include <chrono>
-#include <csignal>
 #include <cstring>
 #include <thread>
 
@@ -22,23 +18,6 @@ namespace
 {
 
 using namespace std::chrono_literals;
-
-// Ends with this process whatever happens to it.
-pid_t startProgram(std::initializer_list<const char *> words, int keptFd = -1)
-{
-    std::vector<char *> arguments;
-    for (const char *word : words)
-        arguments.push_back(const_cast<char *>(word));
-    arguments.push_back(nullptr);
-    const pid_t pid = fork();
-    if (pid != 0)
-        return pid;
-    prctl(PR_SET_PDEATHSIG, SIGKILL);
-    if (keptFd >= 0)
-        dup2(keptFd, 3);
-    execvp(arguments.front(), arguments.data());
-    _exit(127);
-}
 
 // Window managers announce themselves so (Extended Window Manager Hints).
 bool hasWindowManager()
@@ -69,28 +48,18 @@ PrivateDisplay::PrivateDisplay(WindowManager manager)
 
 PrivateDisplay::~PrivateDisplay()
 {
-    for (auto program = m_programs.rbegin(); program != m_programs.rend(); ++program) {
-        kill(*program, SIGKILL);
-        waitpid(*program, nullptr, 0);
-    }
+    for (auto program = m_programs.rbegin(); program != m_programs.rend(); ++program)
+        endProgram(*program);
 }
 
 void PrivateDisplay::startServer()
 {
-    int ends[2];
-    if (pipe(ends) != 0)
-        qFatal("no pipe");
-    m_programs.append(startProgram(
-        {"Xvfb", "-displayfd", "3", "-noreset", "-nolisten", "tcp", "-screen", "0", "1280x800x24"}, ends[1]));
-    close(ends[1]);
-    QByteArray number; // comes in pieces, with a line break behind it
-    char byte = 0;
-    while (read(ends[0], &byte, 1) == 1 && byte != '\n')
-        number.append(byte);
-    close(ends[0]);
-    if (number.isEmpty())
+    const StartedProgram server = startAndReadLine(
+        {"Xvfb", "-displayfd", "3", "-noreset", "-nolisten", "tcp", "-screen", "0", "1280x800x24"});
+    if (server.line.isEmpty())
         qFatal("Xvfb does not start");
-    qputenv("DISPLAY", ":" + number);
+    m_programs.append(server.pid);
+    qputenv("DISPLAY", ":" + server.line);
     qputenv("QT_QPA_PLATFORM", "xcb");
 }
 

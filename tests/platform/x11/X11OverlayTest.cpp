@@ -1,10 +1,11 @@
 #include "platform/Platform.h"
 #include "platform/contracts/OverlayContract.h"
+#include "platform/rig/ForeignWindow.h"
+#include "platform/rig/OtherProgram.h"
+#include "platform/rig/PrivateDisplay.h"
 #include "platform/runloop/QtRunLoop.h"
-#include "platform/x11/ForeignWindow.h"
-#include "platform/x11/OtherProgram.h"
-#include "platform/x11/PrivateDisplay.h"
 
+#include <QElapsedTimer>
 #include <QGuiApplication>
 #include <QRasterWindow>
 #include <QSignalSpy>
@@ -25,7 +26,7 @@ public:
         m_window->resize(800, 500);
         m_platform.overlay->attach(m_window.get());
         m_editor.activate();
-        waitFor([this] { return m_editor.hasFocus(); });
+        waitFor([this] { return m_editor.hasFocus() && m_editor.isActive(); });
     }
     ~X11OverlayWorld() override { m_platform.overlay->attach(nullptr); }
 
@@ -83,7 +84,10 @@ private Q_SLOTS:
     void an_empty_input_region_takes_no_click();
     void the_painted_shape_holds_only_without_a_compositor();
     void the_keyboard_goes_back_to_the_window_that_had_it();
+    void the_keyboard_is_not_kept_from_a_window_that_closed();
     void a_window_that_is_raised_over_it_is_passed();
+    void a_full_screen_program_is_passed();
+    void a_raise_war_is_not_waged();
     void a_screen_locker_stays_above();
     void without_windows_all_requests_are_harmless();
 };
@@ -95,8 +99,7 @@ void X11OverlayTest::it_hangs_from_the_middle_of_the_top_edge()
     world.show();
 
     QCOMPARE(world.window().geometry(), QRect(240, 0, 800, 500));
-    QVERIFY(world.editor().hasFocus());
-    QVERIFY(world.editor().isActive());
+    QVERIFY(world.waitFor([&] { return world.editor().hasFocus() && world.editor().isActive(); }));
     QVERIFY(!world.editor().isAbove(world.xWindow()));
 }
 
@@ -156,6 +159,22 @@ void X11OverlayTest::the_keyboard_goes_back_to_the_window_that_had_it()
     }
 }
 
+void X11OverlayTest::the_keyboard_is_not_kept_from_a_window_that_closed()
+{
+    X11OverlayWorld world;
+    world.show();
+    auto dialog = std::make_unique<ForeignWindow>("Dialog", QRect(20, 20, 100, 100));
+    dialog->activate();
+    QVERIFY(world.waitFor([&] { return dialog->hasFocus(); }));
+    world.overlay().takeKeyboard();
+    QVERIFY(world.waitFor([&] { return world.hasKeyboard(); }));
+
+    dialog.reset();
+    world.overlay().returnKeyboard();
+
+    QVERIFY(world.waitFor([&] { return !world.hasKeyboard(); }));
+}
+
 void X11OverlayTest::a_window_that_is_raised_over_it_is_passed()
 {
     X11OverlayWorld world;
@@ -167,6 +186,40 @@ void X11OverlayTest::a_window_that_is_raised_over_it_is_passed()
     QVERIFY(world.waitFor([&] { return !panel.isAbove(world.xWindow()); }));
 }
 
+void X11OverlayTest::a_full_screen_program_is_passed()
+{
+    X11OverlayWorld world;
+    world.show();
+    ForeignWindow player("Player", {0, 0, 1280, 800});
+    player.activate();
+    QVERIFY(world.waitFor([&] { return player.isActive(); }));
+
+    player.raise();
+
+    QVERIFY(world.waitFor([&] { return !player.isAbove(world.xWindow()); }));
+}
+
+void X11OverlayTest::a_raise_war_is_not_waged()
+{
+    X11OverlayWorld world;
+    world.show();
+    ForeignWindow stubborn("Stubborn", {200, 0, 600, 60}, ForeignWindow::Kind::Unmanaged);
+    int lost = 0;
+
+    // It comes up again whenever the overlay has risen.
+    QElapsedTimer clock;
+    clock.start();
+    while (clock.elapsed() < 2500) {
+        world.waitFor([&] { return clock.elapsed() >= 2500 || !stubborn.isAbove(world.xWindow()); });
+        if (stubborn.isAbove(world.xWindow()))
+            break;
+        ++lost;
+        stubborn.raise();
+    }
+
+    QCOMPARE(lost, 3);
+}
+
 void X11OverlayTest::a_screen_locker_stays_above()
 {
     X11OverlayWorld world;
@@ -174,7 +227,7 @@ void X11OverlayTest::a_screen_locker_stays_above()
     ForeignWindow locker("Locker", {0, 0, 1280, 800}, ForeignWindow::Kind::Unmanaged);
     QVERIFY(locker.isAbove(world.xWindow()));
 
-    // Whatever would bring it up again has had its time once another covered window has come up.
+    // Long after a panel would have been passed.
     const bool cameUp = QTest::qWaitFor([&] { return !locker.isAbove(world.xWindow()); }, 500);
 
     QVERIFY(!cameUp);
@@ -206,4 +259,4 @@ int main(int argc, char **argv)
     return (isChosen ? 0 : QTest::qExec(&contract)) + QTest::qExec(&own, argc, argv);
 }
 
-#include "tst_x11_overlay.moc"
+#include "X11OverlayTest.moc"

@@ -277,4 +277,4 @@ void RunLoopTest::missed_rounds_are_not_made_up_for()
 }
 
 QTEST_GUILESS_MAIN(RunLoopTest)
-#include "tst_runloop.moc"
+#include "RunLoopTest.moc"
