@@ -7,7 +7,7 @@ import subprocess
 import sys
 import time
 
-sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[1] / "tests" / "desktop"))
+sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[1]))
 
 from rig import Child, Desktop, NotInTime, Velm, run, wait_for  # noqa: E402
 from rig import measure  # noqa: E402

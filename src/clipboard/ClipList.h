@@ -26,6 +26,7 @@ public:
     void refresh();
 
     ClipListModel &model() { return m_model; }
+    const QList<ClipRow> &rows() const { return m_model.values(); }
     ClipMeasures &measures() { return m_measures; }
     ClipFilter filter() const { return m_filter; }
     const QString &search() const { return m_search; }

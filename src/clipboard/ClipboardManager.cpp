@@ -229,6 +229,8 @@ void ClipboardManager::save()
     Q_EMIT itemsChanged();
 }
 
+QString ClipboardManager::idAt(int row) const { return m_list.rows().value(row).id; }
+
 void ClipboardManager::setSearch(const QString &search)
 {
     if (search == m_list.search())

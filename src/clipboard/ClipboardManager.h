@@ -51,6 +51,9 @@ public:
     Q_INVOKABLE void remove(const QString &id);
     Q_INVOKABLE void clearUnpinned();
 
+    // Of a row of the model; empty where there is none.
+    Q_INVOKABLE QString idAt(int row) const;
+
     // The model has rows only while somebody looks at them.
     Q_INVOKABLE void setActive(bool isActive) { m_list.setActive(isActive); }
 

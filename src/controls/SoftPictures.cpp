@@ -26,6 +26,7 @@ QImage boxBlurred(const QImage &source, int radius)
     QImage result(source.height(), source.width(), QImage::Format_Alpha8);
     const int width = source.width();
     std::vector<uchar *> columns;
+    columns.reserve(static_cast<size_t>(width));
     for (int x = 0; x < width; ++x)
         columns.push_back(result.scanLine(x));
     for (int y = 0; y < source.height(); ++y) {

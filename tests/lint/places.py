@@ -12,7 +12,7 @@ RULES = [
     (
         re.compile(r"\bQTimer\b|\bQDateTime::currentDateTime|\bQTime::currentTime|\bQDate::currentDate"
                    r"|\bQElapsedTimer\b|steady_clock::now|system_clock::now|\bsleep_for\b|\bQThread::m?u?sleep\b"),
-        re.compile(r"^src/platform/runloop/|^tests/|^src/platform/pasteboard/x11/"),
+        re.compile(r"^src/platform/runloop/|^tests/|^rig/|^src/platform/pasteboard/x11/"),
         "time comes from RunLoop",
     ),
     (re.compile(r"^\s*Timer\s*\{", re.M), re.compile(r"^$"), "time comes from RunLoop"),

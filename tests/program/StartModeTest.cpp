@@ -21,7 +21,8 @@ void StartModeTest::the_switches_decide_before_anything_else_data()
     QTest::addColumn<StartRequest>("request");
 
     const auto row = [](const char *words, const StartRequest &request) {
-        QTest::newRow(words) << QString::fromLatin1(words).split(QLatin1Char(' '), Qt::SkipEmptyParts) << request;
+        QTest::newRow(words) << QString::fromLatin1(words).split(QLatin1Char(' '), Qt::SkipEmptyParts)
+                             << request;
     };
     const QString dir = QStringLiteral("/tmp/x");
     row("", {});

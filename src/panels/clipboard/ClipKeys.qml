@@ -1,7 +1,6 @@
 import QtQuick
 import Velm.Clipboard
 import Velm.Controls
-import Velm.Island
 
 // What each key does in the clipboard panel.
 QtObject {

@@ -26,31 +26,30 @@ ListView {
 
     // Copies the clip of a row, or pastes it too where the person was before. False when there is no such row.
     function use(index: int, paste: bool): bool {
-        const line = root.line(index)
-        if (!line)
+        const id = ClipboardManager.idAt(index) // the rows go when the island closes
+        if (!id)
             return false
-        const id = line.row.id // the rows go when the island closes
         root.currentIndex = index
         if (paste)
             IslandController.close()
         else
-            line.confirm()
+            root.line(index)?.confirm()
         ClipboardManager.use(id, paste)
         return true
     }
 
     function pinCurrent(): bool {
-        const line = root.line(root.currentIndex)
-        if (line)
-            ClipboardManager.togglePin(line.row.id)
-        return line !== null
+        const id = ClipboardManager.idAt(root.currentIndex)
+        if (id)
+            ClipboardManager.togglePin(id)
+        return id !== ""
     }
 
     function removeCurrent(): bool {
-        const line = root.line(root.currentIndex)
-        if (line)
-            ClipboardManager.remove(line.row.id)
-        return line !== null
+        const id = ClipboardManager.idAt(root.currentIndex)
+        if (id)
+            ClipboardManager.remove(id)
+        return id !== ""
     }
 
     Accessible.name: qsTr("Clips")

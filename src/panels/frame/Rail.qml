@@ -1,5 +1,4 @@
 import QtQuick
-import Velm.Controls
 import Velm.Island
 import Velm.Theme
 

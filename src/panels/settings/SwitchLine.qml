@@ -1,6 +1,5 @@
 import QtQuick
 import Velm.Controls
-import Velm.Theme
 
 // A preference that is on or off; the whole line can be pressed.
 SettingsLine {

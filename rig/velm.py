@@ -13,7 +13,7 @@ from .waiting import NotInTime, wait_for
 
 Reply = collections.namedtuple("Reply", "status out err")
 
-_ROOT = pathlib.Path(__file__).resolve().parents[3]
+_ROOT = pathlib.Path(__file__).resolve().parents[1]
 # The island's window, wherever it is.
 WINDOW_SIZE = (800, 500)
 

@@ -7,7 +7,7 @@ import tempfile
 
 from .child import Child, LineReader, run
 
-_CLIENT_SOURCES = pathlib.Path(__file__).resolve().parents[1] / "clients"
+_CLIENT_SOURCES = pathlib.Path(__file__).resolve().parent / "clients"
 _CLIENTS = {"clip_owner": ["clip_owner.cpp", "SelectionOwner.cpp"], "click_window": ["click_window.cpp"]}
 
 
