@@ -1,7 +1,5 @@
 #include "platform/rig/ForeignWindow.h"
 
-#include <xcb/shape.h>
-
 namespace velm
 {
 
@@ -10,9 +8,7 @@ ForeignWindow::ForeignWindow(const QByteArray &windowClass, const QRect &area, K
     , m_root(xcb_setup_roots_iterator(xcb_get_setup(m_xcb)).data->root)
     , m_window(xcb_generate_id(m_xcb))
 {
-    const quint32 values[] = {kind == Kind::Unmanaged ? 1u : 0u, XCB_EVENT_MASK_BUTTON_PRESS |
-                                                                     XCB_EVENT_MASK_KEY_PRESS |
-                                                                     XCB_EVENT_MASK_STRUCTURE_NOTIFY};
+    const quint32 values[] = {kind == Kind::Unmanaged ? 1u : 0u, XCB_EVENT_MASK_BUTTON_PRESS};
     xcb_create_window(m_xcb, XCB_COPY_FROM_PARENT, m_window, m_root, static_cast<int16_t>(area.x()),
                       static_cast<int16_t>(area.y()), static_cast<uint16_t>(area.width()),
                       static_cast<uint16_t>(area.height()), 0, XCB_WINDOW_CLASS_INPUT_OUTPUT,
@@ -37,12 +33,6 @@ void ForeignWindow::raise()
     hasFocus();
 }
 
-void ForeignWindow::focus()
-{
-    xcb_set_input_focus(m_xcb, XCB_INPUT_FOCUS_PARENT, m_window, XCB_CURRENT_TIME);
-    hasFocus();
-}
-
 void ForeignWindow::activate()
 {
     xcb_client_message_event_t message{};
@@ -57,28 +47,12 @@ void ForeignWindow::activate()
     hasFocus();
 }
 
-void ForeignWindow::own(const QByteArray &selection)
-{
-    xcb_set_selection_owner(m_xcb, m_window, atom(selection), XCB_CURRENT_TIME);
-    hasFocus();
-}
-
-void ForeignWindow::disown(const QByteArray &selection)
-{
-    xcb_set_selection_owner(m_xcb, XCB_WINDOW_NONE, atom(selection), XCB_CURRENT_TIME);
-    hasFocus();
-}
-
 int ForeignWindow::clicks()
 {
-    takeEvents();
+    hasFocus(); // what was sent before is here now
+    while (const XcbReply<xcb_generic_event_t> event{xcb_poll_for_event(m_xcb)})
+        m_clicks += (event->response_type & 0x7f) == XCB_BUTTON_PRESS ? 1 : 0;
     return m_clicks;
-}
-
-QList<QPair<xcb_keycode_t, uint16_t>> ForeignWindow::keys()
-{
-    takeEvents();
-    return m_keys;
 }
 
 bool ForeignWindow::hasFocus()
@@ -87,8 +61,6 @@ bool ForeignWindow::hasFocus()
         xcb_get_input_focus_reply(m_xcb, xcb_get_input_focus(m_xcb), nullptr));
     return focus && focus->focus == m_window;
 }
-
-bool ForeignWindow::isActive() { return activeWindow() == m_window; }
 
 bool ForeignWindow::isAbove(xcb_window_t other)
 {
@@ -102,31 +74,6 @@ bool ForeignWindow::isAbove(xcb_window_t other)
             return bottomUp[i] == mine;
     }
     return false;
-}
-
-QRect ForeignWindow::shapeOf(xcb_window_t window, uint8_t kind)
-{
-    const auto cookie = xcb_shape_get_rectangles(m_xcb, window, kind);
-    const XcbReply<xcb_shape_get_rectangles_reply_t> reply(
-        xcb_shape_get_rectangles_reply(m_xcb, cookie, nullptr));
-    QRect bounds;
-    const xcb_rectangle_t *rectangles = xcb_shape_get_rectangles_rectangles(reply.get());
-    for (int i = 0; i < xcb_shape_get_rectangles_rectangles_length(reply.get()); ++i)
-        bounds |= QRect(rectangles[i].x, rectangles[i].y, rectangles[i].width, rectangles[i].height);
-    return bounds;
-}
-
-void ForeignWindow::takeEvents()
-{
-    hasFocus(); // what was sent before is here now
-    while (const XcbReply<xcb_generic_event_t> event{xcb_poll_for_event(m_xcb)}) {
-        const int type = event->response_type & 0x7f;
-        const auto *input = reinterpret_cast<const xcb_key_press_event_t *>(event.get());
-        if (type == XCB_BUTTON_PRESS)
-            ++m_clicks;
-        else if (type == XCB_KEY_PRESS)
-            m_keys.append({input->detail, input->state});
-    }
 }
 
 xcb_atom_t ForeignWindow::atom(const QByteArray &name)
@@ -145,15 +92,6 @@ xcb_window_t ForeignWindow::topLevelOf(xcb_window_t window)
             return window;
         window = tree->parent;
     }
-}
-
-xcb_window_t ForeignWindow::activeWindow()
-{
-    const auto cookie = xcb_get_property(m_xcb, 0, m_root, atom("_NET_ACTIVE_WINDOW"), XCB_ATOM_WINDOW, 0, 1);
-    const XcbReply<xcb_get_property_reply_t> reply(xcb_get_property_reply(m_xcb, cookie, nullptr));
-    if (!reply || xcb_get_property_value_length(reply.get()) < 4)
-        return XCB_WINDOW_NONE;
-    return *static_cast<const xcb_window_t *>(xcb_get_property_value(reply.get()));
 }
 
 }

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <QDir>
-#include <QFile>
 #include <QProcess>
 #include <QTest>
 
@@ -20,45 +18,9 @@ inline QByteArray outputOf(const QString &program, const QStringList &arguments)
     return process.readAllStandardOutput();
 }
 
-// A real program that copies and stays to answer for it; ended with this object.
-class CopyingProgram
+inline void xdotool(const QString &words)
 {
-public:
-    CopyingProgram(const QString &program, const QStringList &arguments, const QByteArray &input)
-    {
-        m_process.setStandardOutputFile(QProcess::nullDevice());
-        m_process.setStandardErrorFile(QProcess::nullDevice());
-        m_process.start(program, arguments);
-        m_process.write(input);
-        m_process.closeWriteChannel();
-    }
-    ~CopyingProgram()
-    {
-        m_process.kill();
-        m_process.waitForFinished(5000);
-    }
-
-    qint64 pid() const { return m_process.processId(); }
-
-private:
-    QProcess m_process;
-};
-
-// Wakeups of all of this process's threads so far: how often one went to sleep by itself.
-inline qint64 wakeupsSoFar()
-{
-    qint64 sum = 0;
-    const QString tasks = QStringLiteral("/proc/self/task");
-    for (const QString &task : QDir(tasks).entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
-        QFile status(tasks + QLatin1Char('/') + task + QStringLiteral("/status"));
-        if (!status.open(QIODevice::ReadOnly))
-            continue;
-        for (const QByteArray &line : status.readAll().split('\n')) {
-            if (line.startsWith("voluntary_ctxt_switches:"))
-                sum += line.mid(24).trimmed().toLongLong();
-        }
-    }
-    return sum;
+    outputOf(QStringLiteral("xdotool"), words.split(QLatin1Char(' ')));
 }
 
 }

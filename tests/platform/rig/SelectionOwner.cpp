@@ -43,23 +43,9 @@ void SelectionOwner::wakeUp()
 {
     doOnThread([this] {
         m_manners.answers = true;
-        m_manners.answersTargets = true;
         for (const auto &request : std::exchange(m_waiting, {}))
             answer(request);
     });
-}
-
-void SelectionOwner::copyBurst(int count, std::chrono::milliseconds interval)
-{
-    constexpr std::chrono::milliseconds patience{200};
-    for (int i = 0; i < count; ++i) {
-        const int before = m_handedOver;
-        copy({{QStringLiteral("UTF8_STRING"), "copy " + QByteArray::number(i)}});
-        std::this_thread::sleep_for(interval);
-        const auto end = std::chrono::steady_clock::now() + patience;
-        while (m_handedOver == before && std::chrono::steady_clock::now() < end)
-            std::this_thread::yield();
-    }
 }
 
 void SelectionOwner::leave()
@@ -97,8 +83,7 @@ void SelectionOwner::handle(const xcb_generic_event_t *event)
 
 void SelectionOwner::answer(const xcb_selection_request_event_t &request)
 {
-    const bool isTargets = request.target == atom("TARGETS");
-    if (isTargets ? !m_manners.answersTargets : !m_manners.answers) {
+    if (!m_manners.answers && request.target != atom("TARGETS")) {
         m_waiting.append(request);
         return;
     }
@@ -119,10 +104,9 @@ bool SelectionOwner::give(const xcb_selection_request_event_t &request, xcb_atom
         return true;
     }
     for (const PasteboardData &data : m_content) {
-        if (request.target != atom(data.type.toLatin1()) || m_manners.refuses.contains(data.type))
+        if (request.target != atom(data.type.toLatin1()))
             continue;
         if (data.bytes.size() <= m_manners.incrementAbove) {
-            ++m_handedOver;
             put(request.requestor, property, request.target, data.bytes);
             return true;
         }
@@ -139,10 +123,6 @@ bool SelectionOwner::give(const xcb_selection_request_event_t &request, xcb_atom
 
 void SelectionOwner::giveTargets(xcb_window_t requestor, xcb_atom_t property)
 {
-    if (!m_manners.rawTargets.isNull()) {
-        put(requestor, property, XCB_ATOM_ATOM, m_manners.rawTargets);
-        return;
-    }
     QList<xcb_atom_t> targets{atom("TARGETS"), atom("TIMESTAMP"), atom("MULTIPLE"), atom("SAVE_TARGETS")};
     for (const PasteboardData &data : m_content)
         targets.append(atom(data.type.toLatin1()));

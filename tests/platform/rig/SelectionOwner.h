@@ -18,14 +18,11 @@ class SelectionOwner
 {
 public:
     struct Manners {
-        bool answers = true;        // else it hangs
-        bool answersTargets = true; // hangs only when asked for content
+        bool answers = true; // else it tells its types and hangs when asked for content
         qsizetype incrementAbove = 1 << 18;
         qsizetype increment = 1 << 16;
         qint64 announcedMore = 0; // than it sends; less when negative
         qsizetype diesAfter = -1; // bytes sent in increments
-        QStringList refuses = {};
-        QByteArray rawTargets = {}; // instead of an honest list
     };
 
     SelectionOwner();
@@ -36,10 +33,6 @@ public:
 
     // Answers now what it kept waiting.
     void wakeUp();
-
-    // Copies "copy 0", "copy 1" and so on, each no sooner than the interval after the one before, and once
-    // that has been handed over: how soon a busy machine lets programs run is not what is tested.
-    void copyBurst(int count, std::chrono::milliseconds interval);
 
     // Goes, and leaves nothing.
     void leave();
@@ -75,7 +68,6 @@ private:
     std::function<void()> m_task;
     int m_wakeFd;
     std::atomic<bool> m_ends = false;
-    std::atomic<int> m_handedOver = 0;
     std::thread m_thread;
 };
 

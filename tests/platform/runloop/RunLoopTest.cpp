@@ -3,7 +3,6 @@
 #include "platform/runloop/VirtualRunLoop.h"
 
 #include <QTest>
-#include <QThread>
 
 using namespace std::chrono_literals;
 using namespace velm;
@@ -51,22 +50,12 @@ private Q_SLOTS:
     void tasks_run_in_the_order_of_their_due_times();
     void a_task_that_was_cancelled_by_another_does_not_run_data() { bothForms(); }
     void a_task_that_was_cancelled_by_another_does_not_run();
-    void what_is_posted_from_another_thread_runs_on_the_main_one_data() { bothForms(); }
-    void what_is_posted_from_another_thread_runs_on_the_main_one();
-    void a_queue_keeps_the_order_and_drains_data() { bothForms(); }
-    void a_queue_keeps_the_order_and_drains();
     void a_result_is_dropped_when_the_one_who_asked_is_gone_data() { bothForms(); }
     void a_result_is_dropped_when_the_one_who_asked_is_gone();
-    void a_timer_that_is_started_again_runs_once_data() { bothForms(); }
-    void a_timer_that_is_started_again_runs_once();
     void a_timer_may_be_destroyed_by_its_own_task_data() { bothForms(); }
     void a_timer_may_be_destroyed_by_its_own_task();
 
-    void each_virtual_task_sees_its_own_due_time();
-    void tasks_due_together_run_in_the_order_of_scheduling();
     void a_task_scheduled_by_a_task_runs_in_the_same_advance_when_it_falls_due();
-    void a_sleeping_machine_moves_the_wall_clock_only();
-    void a_destroyed_timer_leaves_nothing_armed();
     void missed_rounds_are_not_made_up_for();
 };
 
@@ -102,36 +91,6 @@ void RunLoopTest::a_task_that_was_cancelled_by_another_does_not_run()
     loop.loop->cancel(victim); // once more does no harm
 }
 
-void RunLoopTest::what_is_posted_from_another_thread_runs_on_the_main_one()
-{
-    QFETCH(QString, form);
-    const Loop loop = makeLoop(form);
-    QThread *ranOn = nullptr;
-
-    const std::unique_ptr<QThread> other(
-        QThread::create([&] { loop.loop->post([&] { ranOn = QThread::currentThread(); }); }));
-    other->start();
-    QVERIFY(other->wait(5000));
-    loop.pass(10ms);
-
-    QCOMPARE(ranOn, QThread::currentThread());
-}
-
-void RunLoopTest::a_queue_keeps_the_order_and_drains()
-{
-    QFETCH(QString, form);
-    const Loop loop = makeLoop(form);
-    const auto queue = loop.loop->makeQueue("test");
-    QList<int> order;
-
-    for (int i = 0; i < 100; ++i)
-        queue->enqueue([&order, i] { order.append(i); });
-    queue->drain();
-
-    QCOMPARE(order.size(), 100);
-    QVERIFY(std::is_sorted(order.begin(), order.end()));
-}
-
 void RunLoopTest::a_result_is_dropped_when_the_one_who_asked_is_gone()
 {
     QFETCH(QString, form);
@@ -152,21 +111,6 @@ void RunLoopTest::a_result_is_dropped_when_the_one_who_asked_is_gone()
     QCOMPARE(results, QList<int>{2});
 }
 
-void RunLoopTest::a_timer_that_is_started_again_runs_once()
-{
-    QFETCH(QString, form);
-    const Loop loop = makeLoop(form);
-    LoopTimer timer(*loop.loop);
-    QList<int> runs;
-
-    timer.startOnce(10ms, [&] { runs.append(1); });
-    timer.startOnce(20ms, [&] { runs.append(2); });
-    loop.pass(50ms);
-
-    QCOMPARE(runs, QList<int>{2});
-    QVERIFY(!timer.isActive());
-}
-
 void RunLoopTest::a_timer_may_be_destroyed_by_its_own_task()
 {
     QFETCH(QString, form);
@@ -183,36 +127,6 @@ void RunLoopTest::a_timer_may_be_destroyed_by_its_own_task()
     QCOMPARE(runs, 1);
 }
 
-void RunLoopTest::each_virtual_task_sees_its_own_due_time()
-{
-    VirtualRunLoop loop;
-    const auto start = loop.now();
-    const QDateTime wallStart = loop.wallTime();
-    QList<qint64> seen;
-
-    LoopTimer timer(loop);
-    timer.startEvery(350ms, [&] {
-        seen.append((loop.now() - start) / 1ms);
-        QCOMPARE(wallStart.msecsTo(loop.wallTime()), seen.last());
-    });
-    loop.advance(1s);
-
-    QCOMPARE(seen, QList<qint64>({350, 700}));
-    QCOMPARE(wallStart.msecsTo(loop.wallTime()), 1000);
-}
-
-void RunLoopTest::tasks_due_together_run_in_the_order_of_scheduling()
-{
-    VirtualRunLoop loop;
-    QList<int> order;
-
-    for (int i = 0; i < 5; ++i)
-        loop.schedule(loop.now() + 1s, [&order, i] { order.append(i); });
-    loop.advance(1s);
-
-    QCOMPARE(order, QList<int>({0, 1, 2, 3, 4}));
-}
-
 void RunLoopTest::a_task_scheduled_by_a_task_runs_in_the_same_advance_when_it_falls_due()
 {
     VirtualRunLoop loop;
@@ -227,38 +141,6 @@ void RunLoopTest::a_task_scheduled_by_a_task_runs_in_the_same_advance_when_it_fa
 
     QCOMPARE(order,
              QStringList({QStringLiteral("posted"), QStringLiteral("between"), QStringLiteral("inner")}));
-}
-
-void RunLoopTest::a_sleeping_machine_moves_the_wall_clock_only()
-{
-    VirtualRunLoop loop;
-    const auto start = loop.now();
-    const QDateTime wallStart = loop.wallTime();
-    int runs = 0;
-
-    loop.schedule(start + 1min, [&] { ++runs; });
-    loop.suspend(1h);
-
-    QCOMPARE(runs, 0);
-    QCOMPARE(loop.now(), start);
-    QCOMPARE(wallStart.secsTo(loop.wallTime()), 3600);
-    loop.advance(1min);
-    QCOMPARE(runs, 1);
-}
-
-void RunLoopTest::a_destroyed_timer_leaves_nothing_armed()
-{
-    VirtualRunLoop loop;
-    {
-        LoopTimer once(loop);
-        LoopTimer every(loop);
-        once.startOnce(1s, [] {});
-        every.startEvery(1s, [] {});
-        QCOMPARE(loop.armedTimers(), 2);
-        every.stop();
-        QCOMPARE(loop.armedTimers(), 1);
-    }
-    QCOMPARE(loop.armedTimers(), 0);
 }
 
 void RunLoopTest::missed_rounds_are_not_made_up_for()
