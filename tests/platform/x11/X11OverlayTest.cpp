@@ -101,18 +101,18 @@ void X11OverlayTest::a_keyboard_taken_by_another_window_is_told()
 void X11OverlayTest::a_raise_war_is_not_waged()
 {
     World world;
-    ForeignWindow stubborn("Stubborn", {200, 0, 600, 60}, ForeignWindow::Kind::Unmanaged);
+    ForeignWindow pushy("Pushy", {200, 0, 600, 60}, ForeignWindow::Kind::Unmanaged);
     int lost = 0;
 
     // It comes up again whenever the overlay has risen.
     QElapsedTimer clock;
     clock.start();
     while (clock.elapsed() < 2500) {
-        world.waitFor([&] { return clock.elapsed() >= 2500 || !stubborn.isAbove(world.xWindow()); });
-        if (stubborn.isAbove(world.xWindow()))
+        world.waitFor([&] { return clock.elapsed() >= 2500 || !pushy.isAbove(world.xWindow()); });
+        if (pushy.isAbove(world.xWindow()))
             break;
         ++lost;
-        stubborn.raise();
+        pushy.raise();
     }
 
     QCOMPARE(lost, 3);
