@@ -1,6 +1,7 @@
 #include "program/QmlModules.h"
 
 #include "clipboard/ClipThumbnails.h"
+#include "panels/LinkedModules.h"
 #include "program/Application.h"
 #include "theme/Fonts.h"
 
@@ -10,14 +11,6 @@
 #include <QQuickWindow>
 #include <QStyleHints>
 #include <QTranslator>
-#include <QtQml/QQmlExtensionPlugin>
-
-Q_IMPORT_QML_PLUGIN(Velm_AppPlugin)
-Q_IMPORT_QML_PLUGIN(Velm_IslandPlugin)
-Q_IMPORT_QML_PLUGIN(Velm_ClipboardPlugin)
-Q_IMPORT_QML_PLUGIN(Velm_ThemePlugin)
-Q_IMPORT_QML_PLUGIN(Velm_ControlsPlugin)
-Q_IMPORT_QML_PLUGIN(Velm_PanelsPlugin)
 
 namespace velm
 {

@@ -1,16 +1,8 @@
 #include "panels/PanelStage.h"
 
-#include <QQmlExtensionPlugin>
 #include <QSignalSpy>
 
 #include <functional>
-
-Q_IMPORT_QML_PLUGIN(Velm_AppPlugin)
-Q_IMPORT_QML_PLUGIN(Velm_IslandPlugin)
-Q_IMPORT_QML_PLUGIN(Velm_ClipboardPlugin)
-Q_IMPORT_QML_PLUGIN(Velm_ThemePlugin)
-Q_IMPORT_QML_PLUGIN(Velm_ControlsPlugin)
-Q_IMPORT_QML_PLUGIN(Velm_PanelsPlugin)
 
 namespace velm
 {

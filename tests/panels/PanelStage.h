@@ -1,6 +1,7 @@
 #pragma once
 
 #include "clipboard/ClipRig.h"
+#include "panels/LinkedModules.h"
 #include "panels/ThisComputer.h"
 #include "panels/WallClock.h"
 #include "platform/fakes/RecordedFileManager.h"
